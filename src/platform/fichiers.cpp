@@ -1,0 +1,111 @@
+#include "platform/fichiers.h"
+
+#include "platform/erreur.h"
+#include "platform/poignee.h"
+
+namespace {
+
+// What may be set; the others describe how the file is stored.
+constexpr DWORD attributs_reglables = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
+                                      FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_TEMPORARY | FILE_ATTRIBUTE_OFFLINE |
+                                      FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+
+std::uint64_t En_64(DWORD haut, DWORD bas) {
+    return std::uint64_t{haut} << 32 | bas;
+}
+
+DWORD Attributs_ou_absent(const std::wstring & chemin) {
+    if (chemin.empty() || chemin.find_first_of(L"?*", chemin.starts_with(L"\\\\?\\") ? 4 : 0) != std::wstring::npos)
+        return INVALID_FILE_ATTRIBUTES;
+    try {
+        return GetFileAttributesW(Forme_longue(chemin).c_str());
+    } catch (const Erreur_execution &) {
+        return INVALID_FILE_ATTRIBUTES;
+    }
+}
+
+bool Point_ou_deux(const wchar_t * nom) {
+    return nom[0] == L'.' && (nom[1] == L'\0' || (nom[1] == L'.' && nom[2] == L'\0'));
+}
+
+std::wstring Filtre_de_tout(const std::wstring & repertoire) {
+    // The names of the path are names: a wildcard among them would list something else.
+    if (repertoire.empty() ||
+        repertoire.find_first_of(L"?*", repertoire.starts_with(L"\\\\?\\") ? 4 : 0) != std::wstring::npos)
+        Lever_code(ERROR_PATH_NOT_FOUND, Acte::lister, repertoire);
+    std::wstring filtre = Forme_longue(repertoire);
+    if (filtre.back() != L'\\' && filtre.back() != L'/') filtre += L'\\';
+    return filtre += L'*';
+}
+
+// An empty root has no entry at all, not even ".", and answers "file not found" as a missing directory may.
+bool Vide(DWORD code, const std::wstring & repertoire) {
+    return (code == ERROR_FILE_NOT_FOUND || code == ERROR_NO_MORE_FILES) && Repertoire_existe(repertoire);
+}
+
+}  // namespace
+
+std::vector<Entree_repertoire> Lister(const std::wstring & repertoire, bool repertoires) {
+    const std::wstring             filtre = Filtre_de_tout(repertoire);
+    std::vector<Entree_repertoire> entrees;
+    WIN32_FIND_DATAW               trouve;
+    const Poignee_recherche        recherche(FindFirstFileExW(filtre.c_str(), FindExInfoBasic, &trouve,
+                                                              FindExSearchNameMatch, nullptr,
+                                                              FIND_FIRST_EX_LARGE_FETCH));
+    if (!recherche.Valide()) {
+        const DWORD code = GetLastError();
+        if (Vide(code, repertoire)) return entrees;
+        Lever_code(Fichier_existe(repertoire) ? ERROR_DIRECTORY : code, Acte::lister, repertoire);
+    }
+    do {
+        const bool est_repertoire = (trouve.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        if (est_repertoire != repertoires || (repertoires && Point_ou_deux(trouve.cFileName))) continue;
+        entrees.push_back({std::wstring(trouve.cFileName), En_64(trouve.nFileSizeHigh, trouve.nFileSizeLow),
+                           En_64(trouve.ftLastWriteTime.dwHighDateTime, trouve.ftLastWriteTime.dwLowDateTime),
+                           trouve.dwFileAttributes});
+    } while (FindNextFileW(recherche.Valeur(), &trouve));
+    if (GetLastError() != ERROR_NO_MORE_FILES) Lever_derniere_erreur(Acte::lister, repertoire);
+    return entrees;
+}
+
+bool Fichier_existe(const std::wstring & chemin) {
+    const DWORD attributs = Attributs_ou_absent(chemin);
+    return attributs != INVALID_FILE_ATTRIBUTES && (attributs & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool Repertoire_existe(const std::wstring & chemin) {
+    const DWORD attributs = Attributs_ou_absent(chemin);
+    return attributs != INVALID_FILE_ATTRIBUTES && (attributs & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+std::uint64_t Longueur_fichier(const std::wstring & chemin) {
+    // Through a handle: of a link the attributes give the link's own length.
+    const Poignee_fichier fichier(CreateFileW(Forme_longue(chemin).c_str(), FILE_READ_ATTRIBUTES,
+                                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                              OPEN_EXISTING, 0, nullptr));
+    if (!fichier.Valide()) {
+        const DWORD code = GetLastError();
+        if (Repertoire_existe(chemin)) throw Erreur_execution(Numero::acces_fichier, code, chemin);
+        Lever_code(code, Acte::ouvrir, chemin);
+    }
+    LARGE_INTEGER taille;
+    if (!GetFileSizeEx(fichier.Valeur(), &taille)) Lever_derniere_erreur(Acte::lire, chemin);
+    return static_cast<std::uint64_t>(taille.QuadPart);
+}
+
+std::uint32_t Lire_attributs(const std::wstring & chemin) {
+    const DWORD attributs = GetFileAttributesW(Forme_longue(chemin).c_str());
+    if (attributs == INVALID_FILE_ATTRIBUTES) Lever_derniere_erreur(Acte::ouvrir, chemin);
+    return attributs;
+}
+
+void Ecrire_attributs(const std::wstring & chemin, std::uint32_t attributs) {
+    const std::wstring forme  = Forme_longue(chemin);
+    const DWORD        voulus = attributs & attributs_reglables;
+    const DWORD        autres = voulus & ~DWORD{FILE_ATTRIBUTE_READONLY};
+    // Some file systems keep the other attributes beside the file and change them only while it can be written.
+    const bool deux_temps = autres != voulus;
+    if (!SetFileAttributesW(forme.c_str(), autres != 0 ? autres : FILE_ATTRIBUTE_NORMAL) ||
+        (deux_temps && !SetFileAttributesW(forme.c_str(), voulus)))
+        Lever_derniere_erreur(Acte::ecrire, chemin);
+}

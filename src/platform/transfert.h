@@ -1,0 +1,55 @@
+#pragma once
+#include "platform/proprietaire.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+// Copies one file by blocks of 8,192 bytes as its caller sees it; reads and writes underneath are larger, sized so that one of
+// them stays short on a slow medium. Nothing is visible of a copy that did not end: destroying an unfinished transfer
+// closes both files and deletes the target.
+class Transfert {
+public:
+    static constexpr std::size_t taille_bloc = 8192;
+
+    // Opens the source. Errors 53, 70, 75, 76, 68, 71.
+    explicit Transfert(const std::wstring & source);
+    ~Transfert();
+    Transfert(const Transfert &)             = delete;
+    Transfert & operator=(const Transfert &) = delete;
+
+    std::uint64_t Longueur() const { return longueur_; }  // of the source, when it was opened
+
+    // Creates the target, which must not exist (58).
+    void Creer_cible(const std::wstring & cible);
+    // Moves one block on; false when the source was at its end. Errors 61 (disk full), 57, 70, 71: the target is removed
+    // and both files are closed before they are thrown.
+    bool Bloc();
+    // Copies what is left, gives the target the source's date of last change and attributes plus archive, closes both and
+    // checks the length. With `durable` the data is on the disk when it returns, and a source whose length is no longer
+    // that of the copy is error 57. After it the target stays.
+    // An error removes the target.
+    void Terminer(bool durable);
+    // Closes both files and deletes what was made of the target; never throws.
+    void Abandonner() noexcept;
+
+private:
+    void Avancer();  // one read, one write, then the size of the next
+    void Remplir();
+    void Vider();
+    void Achever(bool durable);
+
+    std::wstring           source_;
+    std::wstring           cible_;
+    Poignee_fichier        lecture_;
+    Poignee_fichier        ecriture_;
+    std::uint64_t          longueur_ = 0;
+    std::uint64_t          ecrits_   = 0;
+    std::vector<std::byte> tampon_;
+    std::size_t            presents_  = 0;  // bytes in the buffer
+    std::size_t            remis_     = 0;  // bytes of the buffer already counted as blocks
+    std::size_t            transfert_ = 0;  // bytes asked for at a time
+    bool                   fin_       = false;
+    bool                   cree_      = false;
+};
