@@ -1,0 +1,92 @@
+#include "toolkit/boites.h"
+
+#include "platform/windows.h"
+#include "toolkit/application.h"
+#include "toolkit/controles.h"
+#include "toolkit/fenetre.h"
+#include "toolkit/interne.h"
+
+#include <algorithm>
+#include <commdlg.h>
+
+namespace {
+// The window in front: the active one, else the last one shown.
+Fenetre * Devant() {
+    if (Fenetre * active = Fenetre_de_poignee(GetActiveWindow())) return active;
+    const auto & toutes = Fenetres();
+    for (auto fenetre = toutes.rbegin(); fenetre != toutes.rend(); ++fenetre) {
+        if ((*fenetre)->Montree() && IsWindowEnabled((*fenetre)->Poignee()) != FALSE) return *fenetre;
+    }
+    return nullptr;
+}
+
+constexpr int marge          = 150;
+constexpr int largeur_saisie = 6000;
+
+// The text prompt: its text, one field, "OK" and "Annuler".
+struct Saisie : Fenetre {
+    Saisie(const std::wstring & invite, const std::wstring & titre, int hauteur_invite)
+        : Fenetre(L"Saisie", titre.c_str(), largeur_saisie, hauteur_invite + 1230, Bordure::dialogue),
+          Invite(*this, {L"Invite", marge, marge, largeur_saisie - 2 * marge, hauteur_invite, invite.c_str()},
+                 Alignement::gauche, false, true),
+          Texte(*this, {L"Texte", marge, hauteur_invite + 270, largeur_saisie - 2 * marge, 330}),
+          OK(*this, {L"OK", 2610, hauteur_invite + 735, 1560, 360, L"OK"}),
+          Annuler(*this, {L"Annuler", 4290, hauteur_invite + 735, 1560, 360, L"Annuler"}) {
+        OK.Brancher([this] {
+            reponse = Texte.Text();
+            Hide();
+        });
+        Annuler.Brancher([this] { Hide(); });
+        Defaut(OK);
+        Annulation(Annuler);
+    }
+
+    Etiquette       Invite;
+    Champ_texte     Texte;
+    Bouton_commande OK;
+    Bouton_commande Annuler;
+    std::wstring    reponse;
+};
+
+std::wstring Filtre_systeme(std::wstring filtre) {
+    std::replace(filtre.begin(), filtre.end(), L'|', L'\0');
+    filtre.push_back(L'\0');
+    return filtre;
+}
+}  // namespace
+
+int Message_boite(const std::wstring & texte, unsigned style, const std::wstring & titre) {
+    Fenetre * proprietaire = Devant();
+    return MessageBoxW(proprietaire == nullptr ? nullptr : proprietaire->Poignee(), texte.c_str(), titre.c_str(),
+                       style | MB_SETFOREGROUND);
+}
+
+std::wstring Demander_texte(const std::wstring & invite, const std::wstring & titre, const std::wstring & defaut) {
+    Fenetre * proprietaire = Devant();
+    if (proprietaire == nullptr) return {};
+    const double hauteur = proprietaire->Hauteur_texte(invite, largeur_saisie - 2 * marge);
+    Saisie       saisie(invite, titre, std::max(390, static_cast<int>(hauteur) + 30));
+    saisie.Move(proprietaire->Left() + (proprietaire->Width() - saisie.Width()) / 2, proprietaire->Top() + 1900);
+    saisie.Texte.Text(defaut);
+    saisie.Texte.Selectionner(0, -1);
+    saisie.Texte.SetFocus();
+    saisie.Show_modal(*proprietaire);
+    return saisie.reponse;
+}
+
+std::wstring Choisir_fichier(const std::wstring & titre, const std::wstring & filtre) {
+    Fenetre *          proprietaire = Devant();
+    const std::wstring types        = Filtre_systeme(filtre);
+    std::wstring       chemin(32768, L'\0');
+    OPENFILENAMEW      demande{};
+    demande.lStructSize = sizeof demande;
+    demande.hwndOwner   = proprietaire == nullptr ? nullptr : proprietaire->Poignee();
+    demande.lpstrFilter = types.c_str();
+    demande.lpstrFile   = chemin.data();
+    demande.nMaxFile    = static_cast<DWORD>(chemin.size());
+    demande.lpstrTitle  = titre.c_str();
+    // The current directory is the SOURCE directory: browsing must not move it.
+    demande.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+    if (GetOpenFileNameW(&demande) == FALSE) return {};
+    return chemin.c_str();
+}

@@ -1,0 +1,174 @@
+#include "toolkit/controle.h"
+
+#include "platform/windows.h"
+#include "toolkit/fenetre.h"
+#include "toolkit/interne.h"
+#include "toolkit/mesure.h"
+
+#include <commctrl.h>
+
+namespace {
+constexpr UINT_PTR id_procedure = 1;
+
+SIZE Taille(int left, int top, int width, int height) {
+    return {Pixels(left + width) - Pixels(left), Pixels(top + height) - Pixels(top)};
+}
+}  // namespace
+
+Controle * Controle_de_poignee(HWND poignee) {
+    // The edit of a combo box is a window of the system's inside the control.
+    for (int niveau = 0; poignee != nullptr && niveau < 2; ++niveau) {
+        for (const Fenetre * fenetre : Fenetres()) {
+            if (Controle * controle = fenetre->Controle_de(poignee)) return controle;
+        }
+        poignee = GetAncestor(poignee, GA_PARENT);
+    }
+    return nullptr;
+}
+
+void Nommer(HWND poignee, const std::wstring & nom) {
+    const ATOM atome = GlobalAddAtomW(nom.c_str());
+    SetPropW(poignee, L"nom", reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(atome)));
+}
+
+COLORREF Rouge_vert_bleu(Couleur couleur) {
+    return (couleur & 0x80000000U) != 0 ? GetSysColor(static_cast<int>(couleur & 0xFFU)) : couleur;
+}
+
+Controle::Controle(Fenetre & fenetre, const Place & place, const Genre & genre)
+    : fenetre_(fenetre), nom_(place.nom), aide_(place.aide), left_(place.left), top_(place.top), width_(place.width),
+      height_(place.height), fond_(couleur_face), encre_(couleur_texte_bouton) {
+    const unsigned id     = fenetre.Ajouter(*this);
+    const SIZE     taille = Taille(left_, top_, width_, height_);
+    const DWORD    style  = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | genre.style |
+                        (genre.tabulation ? static_cast<DWORD>(WS_TABSTOP) : 0U);
+    poignee_ = CreateWindowExW(genre.style_etendu, genre.classe, place.caption, style, Pixels(left_), Pixels(top_),
+                               taille.cx, taille.cy, fenetre.Poignee(),
+                               reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), Module(), nullptr);
+    Nommer(poignee_, nom_);
+    SendMessageW(poignee_, WM_SETFONT, reinterpret_cast<WPARAM>(fenetre.police_), TRUE);
+    SetWindowSubclass(poignee_, Procedure, id_procedure, reinterpret_cast<DWORD_PTR>(this));
+}
+
+Controle::~Controle() {
+    fenetre_.Retirer(*this);
+    if (IsWindow(poignee_) == FALSE) return;
+    RemoveWindowSubclass(poignee_, Procedure, id_procedure);
+    GlobalDeleteAtom(static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(RemovePropW(poignee_, L"nom"))));
+    DestroyWindow(poignee_);
+}
+
+void Controle::Placer(int left, int top, int width, int height) {
+    left_ = left, top_ = top, width_ = width, height_ = height;
+    const SIZE taille = Taille(left, top, width, height);
+    SetWindowPos(poignee_, nullptr, Pixels(left), Pixels(top), taille.cx, taille.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+bool Controle::Visible() const {
+    return (GetWindowLongPtrW(poignee_, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+void Controle::Visible(bool visible) {
+    if (visible == Visible()) return;
+    if (!visible && A_le_focus()) fenetre_.Passer_focus();
+    // Only what is never reached by Tab may come to the front: the order of windows is the tab order.
+    if (visible && (GetWindowLongPtrW(poignee_, GWL_STYLE) & WS_TABSTOP) == 0) {
+        SetWindowPos(poignee_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+    ShowWindow(poignee_, visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void Controle::Enabled(bool actif) {
+    if (actif == actif_) return;
+    actif_ = actif;
+    if (!actif && A_le_focus()) fenetre_.Passer_focus();
+    EnableWindow(poignee_, actif ? TRUE : FALSE);
+}
+
+void Controle::SetFocus() {
+    fenetre_.actif_ = this;
+    // In a window that is not in front, the control gets the focus when the window is activated.
+    if (GetActiveWindow() == fenetre_.Poignee()) ::SetFocus(poignee_);
+}
+
+bool Controle::A_le_focus() const {
+    const HWND focus = GetFocus();
+    return focus != nullptr && (focus == poignee_ || IsChild(poignee_, focus) != FALSE);
+}
+
+void Controle::BackColor(Couleur couleur) {
+    if (couleur == fond_) return;
+    fond_ = couleur;
+    Refresh();
+}
+
+void Controle::ForeColor(Couleur couleur) {
+    if (couleur == encre_) return;
+    encre_ = couleur;
+    Refresh();
+}
+
+void Controle::Refresh() {
+    InvalidateRect(poignee_, nullptr, TRUE);
+}
+
+bool Controle::Message(unsigned, std::uintptr_t, std::intptr_t, std::intptr_t &) {
+    return false;
+}
+
+void Controle::Apres_message(unsigned, std::uintptr_t, std::intptr_t) {}
+
+std::intptr_t Controle::Envoyer(unsigned message, std::uintptr_t mot, std::intptr_t large) const {
+    return SendMessageW(poignee_, message, mot, large);
+}
+
+void * Controle::Police_grasse() const {
+    return fenetre_.police_grasse_;
+}
+
+std::wstring Controle::Texte_fenetre() const {
+    std::wstring texte(static_cast<std::size_t>(GetWindowTextLengthW(poignee_)) + 1, L'\0');
+    texte.resize(static_cast<std::size_t>(GetWindowTextW(poignee_, texte.data(), static_cast<int>(texte.size()))));
+    return texte;
+}
+
+void Controle::Texte_fenetre(const std::wstring & texte) {
+    SetWindowTextW(poignee_, texte.c_str());
+}
+
+std::intptr_t __stdcall Controle::Procedure(Poignee_fenetre poignee, unsigned message, std::uintptr_t mot,
+                                            std::intptr_t large, std::uintptr_t, std::uintptr_t reference) {
+    auto & controle = *reinterpret_cast<Controle *>(reference);
+    switch (message) {
+    case WM_SETCURSOR:
+        if (Pointeur_occupe(poignee)) {
+            SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+            return TRUE;
+        }
+        break;
+    case WM_MOUSEMOVE:
+        if (controle.MouseMove) controle.MouseMove();
+        if (controle.fenetre_.MouseMove) controle.fenetre_.MouseMove(&controle);
+        break;
+    case WM_LBUTTONDOWN:
+        if (controle.MouseDown) {
+            bool finie = false;
+            controle.MouseDown(finie);
+            if (finie) return 0;
+        }
+        break;
+    case WM_SETFOCUS:
+        controle.fenetre_.actif_ = &controle;
+        if (controle.GotFocus) controle.GotFocus();
+        break;
+    case WM_KILLFOCUS:
+        if (controle.LostFocus) controle.LostFocus();
+        break;
+    default: break;
+    }
+    std::intptr_t resultat = 0;
+    if (controle.Message(message, mot, large, resultat)) return resultat;
+    resultat = DefSubclassProc(poignee, message, mot, large);
+    controle.Apres_message(message, mot, large);
+    return resultat;
+}
