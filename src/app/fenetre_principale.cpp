@@ -1,0 +1,115 @@
+#include "app/fenetre_principale.h"
+
+#include "app/aide.h"
+#include "app/fenetres.h"
+#include "app/garde.h"
+#include "app/globals.h"
+#include "browser/motif.h"
+#include "browser/panneaux.h"
+#include "browser/selection.h"
+#include "forms/apropos.h"
+#include "forms/gestion_fichiers.h"
+#include "platform/systeme.h"
+#include "toolkit/application.h"
+#include "toolkit/boites.h"
+#include "toolkit/ecran.h"
+
+namespace {
+constexpr int haut_fenetre = 100;  // twips from the top of the screen
+constexpr int decalage     = 8;    // twips right of the middle
+
+void Cacher_progression(Gestion_Fichiers & f) {
+    f.Jauge.Visible(false);
+    for (Ligne & bord : f.Ligne_jauge) bord.Visible(false);
+    f.Arret.Visible(false);
+    f.En_cours.Visible(false);
+    f.Tip.Visible(false);
+    f.Titre_dest.Visible(true);
+    f.Croiser.Visible(true);
+    f.Croiser.Enabled(true);
+}
+
+void Montrer_liste_repertoire(Gestion_Fichiers & f) {
+    variables.Mode_resultats = false;
+    f.Fichier_srce.Visible(true);
+    f.Fichier_sél.Visible(false);
+    f.Fichier_sél.Clear();
+}
+
+void Relire_listes(Gestion_Fichiers & f) {
+    Tenter([&] { f.Répertoire_dest.Refresh(); });
+    Tenter([&] { Appliquer_motif(f.Fichier_dest); });
+    Tenter([&] { f.Répertoire_srce.Refresh(); });
+    Tenter([&] { Appliquer_motif(f.Fichier_srce); });
+    variables.Destination_perimee = false;
+}
+
+void Arret_Click() {
+    variables.Arret_demande = true;
+}
+
+void Form_QueryUnload(bool & refus, Fermeture fermeture) {
+    if (fermeture == Fermeture::systeme) return;
+    Quitter_Click();
+    refus = !Application::Terminee();
+}
+}  // namespace
+
+void Retablir_fenetre() {
+    const Garde        garde;
+    Gestion_Fichiers & f = Principale();
+    Application::Titre(L"KORVANE");
+    variables.Arret_demande = false;
+    Cacher_progression(f);
+    Montrer_liste_repertoire(f);
+    Relire_listes(f);
+    variables.Fichier_courant.clear();
+    Fichier_srce_PathChange();
+    Reprendre_entree(f);
+}
+
+void Form_Resize() {
+    static bool en_cours = false;
+    if (en_cours) return;
+    en_cours             = true;
+    Gestion_Fichiers & f = Principale();
+    if (f.WindowState() == Etat_fenetre::reduite) {
+        if (f.Caption() != L"KORVANE") f.Titre_sauve = f.Caption();
+        f.Caption(L"KORVANE");
+    } else {
+        f.Caption(f.Titre_sauve);
+        f.Move((Largeur_ecran() - f.Width()) / 2 + decalage, haut_fenetre, variables.Largeur_fenetre,
+               variables.Hauteur_fenetre);
+    }
+    en_cours = false;
+}
+
+void Quitter_Click() {
+    if (variables.Garde) return;
+    if (variables.Mode_resultats) return Retablir_fenetre();
+    Bip();
+    const std::wstring question = std::wstring(L"Voulez-vous QUITTER\rle ") + titre_gestionnaire + L" ?";
+    variables.Reponse           = Message_boite(question, Boite::oui_non | Boite::question | Boite::deuxieme_bouton,
+                                                titre_gestionnaire);
+    if (variables.Reponse == Reponse_boite::oui) Application::Terminer();
+}
+
+void A_propos_Click() {
+    if (variables.Garde) return;
+    Apropos & apropos = *fenetres.apropos;
+    apropos.OK.Visible(true);
+    apropos.WindowState(Etat_fenetre::normale);
+    apropos.Move(Principale().Left() + (Principale().Width() - apropos.Width()) / 2,
+                 Principale().Top() + (Principale().Height() - apropos.Height()) / 2);
+    apropos.OK.SetFocus();
+    apropos.Show_modal(Principale());
+}
+
+void Brancher_fenetre_principale(Gestion_Fichiers & f) {
+    f.Resize      = Form_Resize;
+    f.QueryUnload = Form_QueryUnload;
+    f.KeyDown     = [](int & touche, int) { Form_KeyDown(touche); };
+    f.Quitter.Brancher(Quitter_Click);
+    f.A_propos.Brancher(A_propos_Click);
+    f.Arret.Brancher(Arret_Click);
+}

@@ -1,0 +1,114 @@
+#include "fileops/copie.h"
+
+#include "app/errors.h"
+#include "app/globals.h"
+#include "app/routines.h"
+#include "fileops/confirmations.h"
+#include "fileops/jauge.h"
+#include "forms/gestion_fichiers.h"
+#include "platform/erreur.h"
+#include "platform/fichiers.h"
+#include "platform/systeme.h"
+#include "platform/textes.h"
+#include "platform/transfert.h"
+#include "toolkit/application.h"
+#include "toolkit/boites.h"
+
+#include <optional>
+
+namespace {
+// While it lives, Windows shutting down removes the half-made target before the process ends.
+class Abandon_en_fin_de_session {
+public:
+    explicit Abandon_en_fin_de_session(Transfert & transfert) {
+        Application::Fin_de_session([&transfert] { transfert.Abandonner(); });
+    }
+    ~Abandon_en_fin_de_session() { Application::Fin_de_session(nullptr); }
+    Abandon_en_fin_de_session(const Abandon_en_fin_de_session &)             = delete;
+    Abandon_en_fin_de_session & operator=(const Abandon_en_fin_de_session &) = delete;
+};
+
+Copie Conclure(Copie copie, int reponse) {
+    variables.Reponse = reponse;
+    return copie;
+}
+
+void Refuser_copie_sur_soi() {
+    Bip();
+    Message_boite(L"Le fichier " + Majuscules(variables.Fichier_courant) + L"\rne peut être copié sur lui-même.",
+                  Boite::ok | Boite::exclamation, variables.Commande_en_cours);
+}
+
+// What an existing target makes of the file; nothing when the copy goes on.
+std::optional<Copie> Traiter_cible_existante(const Gestion_Fichiers & f) {
+    if (Meme_fichier(variables.Chemin_source, variables.Chemin_cible)) {
+        Refuser_copie_sur_soi();
+        return Conclure(Copie::ignoree, Reponse_boite::non);
+    }
+    Confirmer_remplacement(f);
+    if (variables.Reponse == Reponse_boite::non) return Copie::ignoree;
+    if (variables.Reponse == Reponse_boite::annuler) return Copie::arretee;
+    return std::nullopt;
+}
+
+void Montrer_jauge(Gestion_Fichiers & f, bool visible) {
+    f.Jauge.Value(0);
+    f.Jauge.Caption(L"");
+    f.Jauge.Visible(visible);
+    for (Ligne & bord : f.Ligne_jauge) bord.Visible(visible);
+}
+
+// Moves the file block by block; false when the user stopped it.
+bool Transferer(Gestion_Fichiers & f, Transfert & transfert) {
+    Avance avance(transfert.Longueur());
+    Montrer_jauge(f, avance.Visible());
+    for (;;) {
+        if (variables.Arret_demande) return false;
+        if (!transfert.Bloc()) return true;
+        if (avance.Visible()) {
+            const int avant = static_cast<int>(avance.Pourcentage());
+            avance.Ajouter(Transfert::taille_bloc);
+            f.Jauge.Value(avance.Pourcentage());
+            // The text follows whole percents: writing it at each block would cost more than the block.
+            if (static_cast<int>(avance.Pourcentage()) != avant) f.Jauge.Caption(avance.Texte());
+        }
+        Application::Laisser_passer();
+    }
+}
+}  // namespace
+
+Copie Copier_fichier(Gestion_Fichiers & f, bool durable) {
+    variables.Reponse   = Reponse_boite::oui;
+    const bool existait = Fichier_existe(variables.Chemin_cible);
+    if (existait) {
+        if (const auto copie = Traiter_cible_existante(f)) return *copie;
+    }
+    // A source that cannot be read must not cost the target that it was to replace.
+    Transfert                       transfert(variables.Chemin_source);
+    const Abandon_en_fin_de_session abandon(transfert);
+    if (existait) Supprimer_fichier(variables.Chemin_cible);
+    if (transfert.Longueur() == 0) return Copie::vide;
+    f.Arret.Visible(true);
+    Afficher_en_cours(f);
+    transfert.Creer_cible(variables.Chemin_cible);
+    if (!Transferer(f, transfert)) {
+        transfert.Abandonner();
+        return Conclure(Copie::arretee, Reponse_boite::annuler);
+    }
+    transfert.Terminer(durable);
+    return Copie::faite;
+}
+
+Copie Copier_sur_disquettes(Gestion_Fichiers & f, bool durable) {
+    for (;;) {
+        std::optional<Erreur_execution> pleine;
+        try {
+            return Copier_fichier(f, durable);
+        } catch (const Erreur_execution & erreur) {
+            if (erreur.numero != Numero::disque_plein || !Est_disquette(f.Unité_dest.Drive())) throw;
+            pleine = erreur;
+        }
+        Signaler_erreur(*pleine);
+        if (variables.Reponse != Reponse_boite::oui) return Copie::arretee;
+    }
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+struct Gestion_Fichiers;
+
+// What became of one file.
+enum class Copie {
+    faite,
+    vide,     // nothing to copy: no target was made
+    ignoree,  // the user said no, or the target is the file itself
+    arretee,  // cancelled or stopped: the command ends
+};
+
+// Copies Chemin_source to Chemin_cible by blocks, with the stop button, the progress label and the gauge. Reponse: 6 go on,
+// 7 file skipped, 2 the command ends. With `durable` the copy is on the disk when it returns `faite`. An existing target is
+// replaced when the user agrees. An error leaves no partial target.
+Copie Copier_fichier(Gestion_Fichiers & f, bool durable);
+
+// The same, and a full diskette asks for the next one, on which the file is tried again.
+Copie Copier_sur_disquettes(Gestion_Fichiers & f, bool durable);

@@ -1,0 +1,116 @@
+#include "app/garde.h"
+#include "app/globals.h"
+#include "browser/selection.h"
+#include "fileops/commandes.h"
+#include "fileops/confirmations.h"
+#include "fileops/copie.h"
+#include "fileops/destination.h"
+#include "forms/gestion_fichiers.h"
+#include "platform/erreur.h"
+#include "platform/fichiers.h"
+#include "platform/systeme.h"
+#include "platform/textes.h"
+#include "toolkit/application.h"
+#include "toolkit/boites.h"
+
+namespace {
+enum class Suite { continuer, terminer };
+
+// Where the SOURCE list's cursor goes as files leave the list one by one.
+class Curseur {
+public:
+    explicit Curseur(const Liste & liste) : nombre_(liste.ListCount()), index_(liste.ListIndex()) {}
+
+    // One file less; false when the list is empty.
+    bool Retirer() {
+        --nombre_;
+        if (nombre_ > 0 && index_ == nombre_) --index_;
+        return nombre_ > 0;
+    }
+    int Index() const { return nombre_ > 0 ? index_ : -1; }
+
+private:
+    int nombre_;
+    int index_;
+};
+
+struct Deplacement {
+    Gestion_Fichiers & f;
+    Parcours           parcours;
+    Destination        destination;
+    Curseur            curseur;
+    bool               premier = true;  // free space is looked at before the first copy
+};
+
+void Refuser_meme_repertoire() {
+    Bip();
+    Message_boite(L"Le répertoire 'DESTINATION' est le même que le répertoire 'SOURCE' ; il est interdit de déplacer un "
+                  L"fichier sur lui-même.",
+                  Boite::ok | Boite::exclamation, variables.Commande_en_cours);
+}
+
+bool Meme_unite(const std::wstring & a, const std::wstring & b) {
+    return Majuscules(a.substr(0, 1)) == Majuscules(b.substr(0, 1));
+}
+
+// Another drive: the source goes only once its copy is whole and on the disk.
+Suite Transporter(Deplacement & d) {
+    if (d.premier && !Verifier_espace(d.f, d.parcours.Total())) return Suite::terminer;
+    d.premier = false;
+    if ((Lire_attributs(variables.Chemin_source) & Attribut::lecture) != 0) {
+        throw Erreur_execution(Numero::acces_fichier, 0, variables.Chemin_source);
+    }
+    const Copie copie = Copier_sur_disquettes(d.f, true);
+    if (copie == Copie::arretee) return Suite::terminer;
+    if (copie == Copie::faite) Supprimer_fichier(variables.Chemin_source);
+    return Suite::continuer;
+}
+
+// The same drive: one renaming. A file of that name is replaced when the user agrees.
+Suite Renommer_vers_destination(Deplacement & d) {
+    const bool existe = Fichier_existe(variables.Chemin_cible);
+    variables.Reponse = Reponse_boite::oui;
+    if (existe) Confirmer_remplacement(d.f);
+    if (variables.Reponse == Reponse_boite::annuler) return Suite::terminer;
+    if (variables.Reponse == Reponse_boite::non) return Suite::continuer;
+    // What is protected against writing is not replaced by a renaming either.
+    if (existe && (Lire_attributs(variables.Chemin_cible) & Attribut::lecture) != 0) {
+        throw Erreur_execution(Numero::acces_fichier, 0, variables.Chemin_cible);
+    }
+    if (existe) Remplacer_fichier(variables.Chemin_source, variables.Chemin_cible);
+    else Renommer_fichier(variables.Chemin_source, variables.Chemin_cible);
+    if (variables.Mode_resultats) return Suite::continuer;
+    if (!d.curseur.Retirer()) variables.Arret_demande = true;  // nothing left to move
+    variables.Index_a_reprendre = d.curseur.Index();
+    return Suite::continuer;
+}
+
+Suite Deplacer_un_fichier(Deplacement & d) {
+    const std::wstring & repertoire = d.parcours.Courant().repertoire;
+    if (d.destination.Est(repertoire)) {
+        Refuser_meme_repertoire();
+        return Suite::terminer;
+    }
+    if (variables.Confirme_commande) {
+        Confirmer_commande(d.f, repertoire);
+        if (variables.Reponse == Reponse_boite::non) return Suite::continuer;
+        if (variables.Reponse == Reponse_boite::annuler) return Suite::terminer;
+    }
+    d.f.Arret.Visible(true);
+    Application::Laisser_passer();
+    const bool  meme  = Meme_unite(variables.Chemin_source, variables.Chemin_cible);
+    const Suite suite = meme ? Renommer_vers_destination(d) : Transporter(d);
+    d.destination.Actualiser();
+    return suite;
+}
+}  // namespace
+
+void Déplacer_Click() {
+    Garder(L"DEPLACER", [](Gestion_Fichiers & f) {
+        if (f.Ligne_message.Caption().empty()) return Signaler_absence_selection();
+        Deplacement d{f, Parcours(f), Destination(f), Curseur(f.Fichier_srce)};
+        while (d.parcours.Suivant()) {
+            if (Deplacer_un_fichier(d) == Suite::terminer || variables.Arret_demande) break;
+        }
+    });
+}

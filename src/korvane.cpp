@@ -1,0 +1,47 @@
+#include "app/aide.h"
+#include "app/astuces.h"
+#include "app/demarrage.h"
+#include "app/dialogue.h"
+#include "app/fenetre_principale.h"
+#include "app/fenetres.h"
+#include "browser/mode.h"
+#include "browser/motif.h"
+#include "browser/panneaux.h"
+#include "browser/selection.h"
+#include "fileops/commandes.h"
+#include "forms/apropos.h"
+#include "forms/dialogue.h"
+#include "forms/gestion_fichiers.h"
+#include "platform/systeme.h"
+#include "toolkit/application.h"
+
+namespace {
+void Brancher(Gestion_Fichiers & f, Dialogue & d) {
+    Brancher_fenetre_principale(f);
+    Brancher_aide(f);
+    Brancher_astuces(f);
+    Brancher_panneaux(f);
+    Brancher_mode(f);
+    Brancher_motif(f);
+    Brancher_selection(f);
+    Brancher_commandes(f);
+    Brancher_dialogue(d);
+}
+}  // namespace
+
+extern "C" int __stdcall wWinMain(void *, void *, wchar_t *, int) {
+    Application::Initialiser();
+    const Instance_unique instance(L"KORVANE");
+    if (instance.Deja_lancee()) {
+        Signaler_deja_charge();
+        return 0;
+    }
+    Apropos             apropos;
+    const std::uint64_t banniere = Montrer_banniere(apropos);
+    Gestion_Fichiers    principale;
+    Dialogue            dialogue;
+    fenetres = {&apropos, &principale, &dialogue};
+    Brancher(principale, dialogue);
+    Charger(principale, apropos, banniere);
+    return Application::Boucler();
+}
