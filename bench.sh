@@ -1,0 +1,36 @@
+#!/bin/bash
+# Measures the program's engine and services against what the system offers, in one run, as ratios.
+# The table is printed and kept in build/banc/resultats.txt.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+source outils/wine.sh
+
+./outils/installer.sh essais
+cmake --preset windows-x64 >build/banc-configuration.txt 2>&1 || { cat build/banc-configuration.txt; exit 1; }
+cmake --build --preset windows-x64 --target KORVANE banc gardien
+
+travail=$PWD/build/banc
+rm -rf "$travail"
+mkdir -p "$travail/cent_mille" "$travail/travail" "$travail/programme"
+# Made from here: the time to make many files through Wine grows with their square.
+python3 - "$travail/cent_mille" <<'FIN' 2>/dev/null || (cd "$travail/cent_mille" && seq -f 'fichier %06.0f.txt' 100000 | xargs -d '\n' touch)
+import sys, random
+random.seed(1)
+for i in range(100000):
+    with open(f"{sys.argv[1]}/fichier {i * 7919 % 100000:06d}.txt", "wb") as f:
+        f.write(b"x" * (i % 50))
+FIN
+cp build/windows-x64/KORVANE.EXE "$travail/programme/"
+printf '[Options]\r\nIconis\xe9=Oui\r\n' >"$travail/programme/KORVANE.INI"
+
+export WINEPREFIX=$travail/prefixe
+unset DISPLAY
+trap 'outils/prefixe.sh fermer "$WINEPREFIX"' EXIT
+outils/prefixe.sh modele build/prefixe-modele
+outils/prefixe.sh nouveau build/prefixe-modele "$WINEPREFIX" null
+outils/prefixe.sh chauffer "$WINEPREFIX" build/windows-x64/gardien.exe
+en_wine() { echo "z:${1//\//\\}"; }
+lancer_wine 900 "$travail/resultats.txt" build/windows-x64/banc.exe "$(en_wine "$travail/cent_mille")" \
+    "$(en_wine "$travail/travail")" "$(en_wine "$travail/programme/KORVANE.EXE")" || echo "mesures incomplètes" >>"$travail/resultats.txt"
+cat "$travail/resultats.txt"
+! grep -q "incomplètes" "$travail/resultats.txt"
