@@ -38,7 +38,7 @@ file(GLOB essais CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/services/*.cpp")
 if(essais)
     add_executable(tests_services ${essais})
     target_include_directories(tests_services PRIVATE "${CMAKE_SOURCE_DIR}/tests")
-    target_link_libraries(tests_services PRIVATE services logique GTest::gtest_main)
+    target_link_libraries(tests_services PRIVATE gestionnaire boite_a_outils services logique GTest::gtest_main)
 endif()
 
 file(GLOB essais CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/fenetres/*.cpp")

@@ -32,8 +32,8 @@ void Ouvrir_fichier_aide() {
     if (variables.Fichier_aide.empty()) return;
     const std::wstring chemin = Repertoire_programme() + L"\\" + variables.Fichier_aide;
     if (Fichier_existe(chemin) && Ouvrir_aide(chemin)) return;
-    Message_boite(L"Le fichier d'aide " + variables.Fichier_aide + L" est introuvable.", Boite::ok | Boite::information,
-                  titre_gestionnaire);
+    Message_boite(L"Le fichier d'aide " + variables.Fichier_aide + L" est introuvable.",
+                  Boite::ok | Boite::information, titre_gestionnaire);
 }
 
 void Aide_Click() {
@@ -51,9 +51,9 @@ void Basculer_aide() {
 }
 
 void Rappel_aide() {
-    Principale().Fenêtre.Caption(
-        L"  Cliquez sur un élément de la fenêtre de KORVANE ou bien cliquez sur le point d'interrogation ou appuyez sur "
-        L"la touche F1 pour arrêter l'aide.");
+    Principale().Fenêtre.Caption(L"  Cliquez sur un élément de la fenêtre de KORVANE ou bien cliquez sur le "
+                                 L"point d'interrogation ou appuyez sur "
+                                 L"la touche F1 pour arrêter l'aide.");
 }
 
 void Form_KeyDown(int & touche) {
@@ -78,8 +78,9 @@ void Brancher_aide(Gestion_Fichiers & f) {
     };
     const auto expliquer = [](Controle & controle) { return [&controle] { Expliquer(&controle); }; };
     for (Controle * controle : std::initializer_list<Controle *>{
-             &f.Chemin_srce, &f.Unité_srce, &f.Sélection_fichiers, &f.Répertoire_srce, &f.Fichier_srce, &f.Fichier_sél,
-             &f.Chemin_dest, &f.Unité_dest, &f.Répertoire_dest, &f.Fichier_dest, &f.Ligne_commande}) {
+             &f.Chemin_srce, &f.Unité_srce, &f.Sélection_fichiers, &f.Répertoire_srce, &f.Fichier_srce,
+             &f.Fichier_sél, &f.Chemin_dest, &f.Unité_dest, &f.Répertoire_dest, &f.Fichier_dest,
+             &f.Ligne_commande}) {
         controle->GotFocus = expliquer(*controle);
     }
 }

@@ -8,15 +8,17 @@
 #include <array>
 
 namespace {
-constexpr int marge_texte    = 90;   // twips on each side of the text
-constexpr int sous_pointeur  = 330;  // twips below the pointer's tip, clear of its picture
+constexpr int     marge_texte   = 90;        // twips on each side of the text
+constexpr Couleur fond          = 0xE1FFFF;  // pale yellow: it must stand out from the lists
+constexpr Couleur encre         = 0x000000;
+constexpr int     sous_pointeur = 330;  // twips below the pointer's tip, clear of its picture
 
 std::array<Liste *, 5> Listes(Gestion_Fichiers & f) {
     return {&f.Répertoire_srce, &f.Fichier_srce, &f.Fichier_sél, &f.Répertoire_dest, &f.Fichier_dest};
 }
 
 void Montrer(Gestion_Fichiers & f, const Liste & liste, const std::wstring & texte) {
-    const int droite  = f.Fenêtre.Width();
+    const int droite  = f.Cadre_dest.Left() + f.Cadre_dest.Width();
     const int largeur = std::min(static_cast<int>(f.Largeur_texte(texte)) + 2 * marge_texte, droite);
     const int gauche  = std::clamp(liste.Left(), 0, std::max(0, droite - largeur));
     f.Tip.Caption(L" " + texte);
@@ -37,8 +39,8 @@ void Suivre_pointeur(Controle * controle) {
 }
 
 void Brancher_astuces(Gestion_Fichiers & f) {
-    f.Tip.BackColor(0x80000018);
-    f.Tip.ForeColor(0x80000017);
+    f.Tip.BackColor(fond);
+    f.Tip.ForeColor(encre);
     for (Liste * liste : Listes(f)) {
         liste->Scroll = [&f] { f.Tip.Visible(false); };
     }

@@ -17,23 +17,22 @@
 #include "toolkit/ecran.h"
 
 namespace {
-constexpr std::uint64_t   duree_banniere    = 3000;  // ms
-constexpr unsigned        pas_attente       = 50;    // ms
-constexpr int             haut_fenetre      = 100;   // twips
-constexpr int             epaisseur_lignes  = 3;
-constexpr const wchar_t * etape             = L"INIT KORVANE";
+constexpr std::uint64_t   duree_banniere   = 3000;  // ms
+constexpr unsigned        pas_attente      = 50;    // ms
+constexpr int             haut_fenetre     = 100;   // twips
+constexpr int             epaisseur_lignes = 3;
+constexpr Couleur         fond_bandeau     = 0xF5E9DC;  // pale blue: the icon stands out from it
+constexpr const wchar_t * etape            = L"INIT KORVANE";
 
 void Preparer_controles(Gestion_Fichiers & f) {
     for (Ligne * ligne : {&f.Ligne1, &f.Ligne2, &f.Ligne3}) ligne->BorderWidth(epaisseur_lignes);
     for (Controle * controle : std::initializer_list<Controle *>{
-             &f.Tip, &f.Fichier_sél, &f.Créer, &f.Supprimer, &f.En_cours, &f.Ligne_commande, &f.Jauge, &f.Arret,
-             &f.Bouton_suite, &f.Répertoire, &f.Liste_rép, &f.Liste_sel}) {
+             &f.Tip, &f.Fichier_sél, &f.Créer, &f.Supprimer, &f.En_cours, &f.Ligne_commande, &f.Jauge,
+             &f.Arret, &f.Bouton_suite, &f.Répertoire, &f.Liste_rép, &f.Liste_sel}) {
         controle->Visible(false);
     }
     for (Ligne & bord : f.Ligne_jauge) bord.Visible(false);
     for (Bouton_commande & bouton : f.Bouton) bouton.Visible(false);
-    f.Fenêtre.BackColor(0x80000018);
-    f.Fenêtre.ForeColor(0x80000017);
     f.Sélection_fichiers.Text(L"*.*");
 }
 
@@ -120,7 +119,8 @@ void Executer_etapes(Gestion_Fichiers & f) {
         Lire_couleur();
         Appliquer_couleur(static_cast<int>(Valeur(variables.Option_couleur)));
     });
-    Pieger(etape, [&] { Ouvrir_repertoire_initial(f); }, [&] { Ouvrir_racine_de_secours(f); });
+    Pieger(
+        etape, [&] { Ouvrir_repertoire_initial(f); }, [&] { Ouvrir_racine_de_secours(f); });
     Pieger(etape, [&] { Fichier_srce_PathChange(); });
     Pieger(etape, [&] { Charger_selections(f); });
     Pieger(etape, [&] { Charger_boutons(f); });
@@ -132,7 +132,8 @@ void Executer_etapes(Gestion_Fichiers & f) {
 }
 
 void Attendre_banniere(std::uint64_t debut) {
-    while (!Application::Terminee() && Horloge_ms() - debut < duree_banniere) Application::Patienter(pas_attente);
+    while (!Application::Terminee() && Horloge_ms() - debut < duree_banniere)
+        Application::Patienter(pas_attente);
 }
 }  // namespace
 
@@ -140,6 +141,9 @@ std::uint64_t Montrer_banniere(Apropos & apropos) {
     Situer_profil();
     Lire_iconise();
     apropos.Icone.Picture(Image::Icone::programme);
+    apropos.Icone.BackColor(fond_bandeau);
+    apropos.Bandeau.BackColor(fond_bandeau);
+    apropos.Bandeau.BorderColor(fond_bandeau);
     apropos.OK.Visible(false);
     apropos.OK.Brancher([&apropos] { apropos.Hide(); });
     apropos.Defaut(apropos.OK);

@@ -12,19 +12,19 @@
 #include <cmath>
 
 namespace {
-constexpr int marge           = 240;   // twips around what the window holds
+constexpr int marge           = 240;  // twips around what the window holds
 constexpr int ecart_boutons   = 120;
 constexpr int largeur_bouton  = 1440;
 constexpr int hauteur_bouton  = 375;
 constexpr int hauteur_minimum = 480;  // of the message: the picture's
-constexpr int sans_icone      = 240;   // left edge of the message
+constexpr int sans_icone      = 240;  // left edge of the message
 constexpr int avec_icone      = 960;
 
 // Repainting puts the window where it belongs and the focus on the button of the Tag.
 void Form_Paint() {
-    Dialogue &               d = *fenetres.dialogue;
-    const Gestion_Fichiers & f = Principale();
-    const int bordure          = static_cast<int>(15 * variables.Bordure);
+    Dialogue &               d       = *fenetres.dialogue;
+    const Gestion_Fichiers & f       = Principale();
+    const int                bordure = static_cast<int>(15 * variables.Bordure);
     d.Move(f.Left() + 1300 + bordure, f.Top() + 1900 + bordure);
     const auto choisi = static_cast<int>(Valeur(d.Tag));
     if (choisi >= 1 && choisi <= 3 && d.Tag == Avec_signe(choisi)) {
@@ -58,10 +58,12 @@ int Aligner_boutons(Dialogue & d, const std::array<std::wstring, 3> & captions, 
     return x - ecart_boutons;
 }
 
-void Disposer(Dialogue & d, const std::wstring & message, const std::array<std::wstring, 3> & captions, bool icone) {
+void Disposer(Dialogue & d, const std::wstring & message, const std::array<std::wstring, 3> & captions,
+              bool icone) {
     const int gauche  = icone ? avec_icone : sans_icone;
     const int largeur = Dialogue::largeur - gauche - marge;
-    const int hauteur = std::max(hauteur_minimum, static_cast<int>(std::ceil(d.Hauteur_texte(message, largeur))) + 30);
+    const int hauteur =
+        std::max(hauteur_minimum, static_cast<int>(std::ceil(d.Hauteur_texte(message, largeur))) + 30);
     d.Texte.Caption(message);
     d.Texte.Placer(gauche, marge, largeur, hauteur);
     const int haut   = marge + hauteur + marge;
@@ -72,13 +74,15 @@ void Disposer(Dialogue & d, const std::wstring & message, const std::array<std::
 
 // A button that stands alone closes a notice, under a wording of its own.
 void Remplacer_bouton_seul(std::array<std::wstring, 3> & captions) {
-    const auto donnes = std::count_if(captions.begin(), captions.end(), [](const auto & c) { return !c.empty(); });
+    const auto donnes =
+        std::count_if(captions.begin(), captions.end(), [](const auto & c) { return !c.empty(); });
     if (donnes == 0) captions[2] = L"    OK   ";
 }
 }  // namespace
 
 int Choix_bouton(const std::wstring & message, const std::wstring & bouton1, const std::wstring & bouton2,
-                 const std::wstring & bouton3, const std::wstring & icone, const std::wstring & titre, int defaut) {
+                 const std::wstring & bouton3, const std::wstring & icone, const std::wstring & titre,
+                 int defaut) {
     Dialogue &                  d = *fenetres.dialogue;
     std::array<std::wstring, 3> captions{bouton1, bouton2, bouton3};
     Remplacer_bouton_seul(captions);
@@ -97,8 +101,8 @@ void Brancher_dialogue(Dialogue & d) {
     d.Bouton1.Brancher([] { Repondre(1); });
     d.Bouton2.Brancher([] { Repondre(2); });
     d.Bouton3.Brancher([] { Repondre(3); });
-    d.Paint       = Form_Paint;
-    d.KeyDown     = [](int & touche, int) {
+    d.Paint   = Form_Paint;
+    d.KeyDown = [](int & touche, int) {
         if (touche != Touche::echap) return;
         touche = 0;
         Repondre(3);

@@ -11,7 +11,8 @@
 #include "toolkit/boites.h"
 
 namespace {
-// The drive that a message names: a full disk is the DESTINATION, otherwise the drive of the path that failed.
+// The drive that a message names: a full disk is the DESTINATION, otherwise the drive of the path that
+// failed.
 std::wstring Unite_en_cause(const Erreur_execution & erreur, const Gestion_Fichiers & f) {
     if (erreur.numero == Numero::disque_plein) return Majuscules(f.Unité_dest.Drive().substr(0, 2));
     if (erreur.chemin.size() >= 2 && erreur.chemin[1] == L':') return Majuscules(erreur.chemin.substr(0, 2));
@@ -43,7 +44,7 @@ void Signaler_erreur(const Erreur_execution & erreur) {
         Message_boite(message.texte, Boite::ok | Boite::exclamation, message.titre);
         break;
     case Genre_message::question_disquette: {
-        const int choix   = Message_boite(message.texte, Boite::ok_annuler | Boite::exclamation, message.titre);
+        const int choix = Message_boite(message.texte, Boite::ok_annuler | Boite::exclamation, message.titre);
         variables.Reponse = choix == Reponse_boite::ok ? Reponse_boite::oui : Reponse_boite::annuler;
         break;
     }

@@ -13,6 +13,7 @@
 #include "toolkit/application.h"
 #include "toolkit/boites.h"
 #include "toolkit/ecran.h"
+#include "toolkit/mesure.h"
 
 namespace {
 constexpr int haut_fenetre = 100;  // twips from the top of the screen
@@ -44,9 +45,7 @@ void Relire_listes(Gestion_Fichiers & f) {
     variables.Destination_perimee = false;
 }
 
-void Arret_Click() {
-    variables.Arret_demande = true;
-}
+void Arret_Click() { variables.Arret_demande = true; }
 
 void Form_QueryUnload(bool & refus, Fermeture fermeture) {
     if (fermeture == Fermeture::systeme) return;
@@ -78,7 +77,9 @@ void Form_Resize() {
         f.Caption(L"KORVANE");
     } else {
         f.Caption(f.Titre_sauve);
-        f.Move((Largeur_ecran() - f.Width()) / 2 + decalage, haut_fenetre, variables.Largeur_fenetre,
+        // Centred at the width it is given, whatever width it was dragged to; a frame is whole pixels.
+        const int largeur = Twips(Pixels(variables.Largeur_fenetre));
+        f.Move((Largeur_ecran() - largeur) / 2 + decalage, haut_fenetre, variables.Largeur_fenetre,
                variables.Hauteur_fenetre);
     }
     en_cours = false;
@@ -89,8 +90,8 @@ void Quitter_Click() {
     if (variables.Mode_resultats) return Retablir_fenetre();
     Bip();
     const std::wstring question = std::wstring(L"Voulez-vous QUITTER\rle ") + titre_gestionnaire + L" ?";
-    variables.Reponse           = Message_boite(question, Boite::oui_non | Boite::question | Boite::deuxieme_bouton,
-                                                titre_gestionnaire);
+    variables.Reponse = Message_boite(question, Boite::oui_non | Boite::question | Boite::deuxieme_bouton,
+                                      titre_gestionnaire);
     if (variables.Reponse == Reponse_boite::oui) Application::Terminer();
 }
 

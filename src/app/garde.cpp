@@ -29,15 +29,12 @@ std::optional<Erreur_execution> Executer(const std::function<void()> & corps) {
 
 Garde::Garde() : avant_(std::exchange(variables.Garde, true)) {}
 
-Garde::~Garde() {
-    variables.Garde = avant_;
-}
+Garde::~Garde() { variables.Garde = avant_; }
 
-bool Tenter(const std::function<void()> & corps) {
-    return !Executer(corps).has_value();
-}
+bool Tenter(const std::function<void()> & corps) { return !Executer(corps).has_value(); }
 
-void Pieger(const std::wstring & commande, const std::function<void()> & corps, const std::function<void()> & remise) {
+void Pieger(const std::wstring & commande, const std::function<void()> & corps,
+            const std::function<void()> & remise) {
     variables.Commande_en_cours = commande;
     const auto erreur           = Executer(corps);
     if (!erreur) return;

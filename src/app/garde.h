@@ -16,15 +16,16 @@ private:
     bool avant_;
 };
 
-// Runs a step that treats one failure in silence: true when nothing was thrown. For what must go on whatever a drive does.
+// Runs a step that treats one failure in silence: true when nothing was thrown. For what must go on whatever
+// a drive does.
 bool Tenter(const std::function<void()> & corps);
 
-// The trap of the pane handlers: takes the label, runs the body and has a run-time error reported. `remise` puts the
-// window in order after a failure, before the report shows.
+// The trap of the pane handlers: takes the label, runs the body and has a run-time error reported. `remise`
+// puts the window in order after a failure, before the report shows.
 void Pieger(const std::wstring & commande, const std::function<void()> & corps,
             const std::function<void()> & remise = {});
 
-// The gate and trap of the commands: nothing happens while another one is in progress. While the body runs the guard flag is
-// up, the pointer is the hourglass and input reaches the stop button alone. Every way out ends with Retablir_fenetre; an error is
-// reported after it.
+// The gate and trap of the commands: nothing happens while another one is in progress. While the body runs
+// the guard flag is up, the pointer is the hourglass and input reaches the stop button alone. Every way out
+// ends with Retablir_fenetre; an error is reported after it.
 void Garder(const std::wstring & commande, const std::function<void(Gestion_Fichiers &)> & corps);

@@ -20,8 +20,8 @@ struct Variables {
     std::wstring  Fichier_courant;  // bare name, empty when none
     std::wstring  Chemin_source;
     std::wstring  Chemin_cible;
-    std::size_t   Nombre_selection  = 0;   // files counted for the message line
-    int           Index_a_reprendre = -1;  // entry that alone is selected when the command has ended; -1 for none
+    std::size_t   Nombre_selection = 0;  // files counted for the message line
+    int Index_a_reprendre = -1;  // entry that alone is selected when the command has ended; -1 for none
 
     // What the main window shows.
     bool         Mode_repertoire  = false;
@@ -30,7 +30,8 @@ struct Variables {
     std::wstring Motif_sauve;
     double       Espace_libre_ko = 0;  // of the DESTINATION drive, units of 1000 bytes
     std::wstring Texte_chemin;         // carries a path into Raccourcir_chemin and back
-    // Directories were made, renamed or removed: the disk tree of the search and the DESTINATION list are to be read again.
+    // Directories were made, renamed or removed: the disk tree of the search and the DESTINATION list are to
+    // be read again.
     bool Arborescence_perimee = false;
     bool Destination_perimee  = false;
 
@@ -52,9 +53,9 @@ struct Variables {
     std::wstring Option_iconise;
     std::wstring Option_couleur;
     std::wstring Repertoire_initial;
-    double       Bordure          = 0;  // BorderWidth of WIN.INI
-    int          Largeur_fenetre  = 0;  // twips that the main window is held at
-    int          Hauteur_fenetre  = 0;
+    double       Bordure         = 0;  // BorderWidth of WIN.INI
+    int          Largeur_fenetre = 0;  // twips that the main window is held at
+    int          Hauteur_fenetre = 0;
 
     // Recycle bin.
     bool         Corbeille_active = false;

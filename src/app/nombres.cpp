@@ -14,18 +14,9 @@ std::string partie_lue(std::wstring_view texte) {
     if (i == texte.npos) return lue;
     if (texte[i] == L'-') lue = '-';
     if (texte[i] == L'-' || texte[i] == L'+') ++i;
-    bool point = false;
-    for (; i < texte.size(); ++i) {
-        if (chiffre(texte[i])) {
-            lue += static_cast<char>(texte[i]);
-        } else if (texte[i] == L'.' && !point) {
-            point = true;
-            lue += '.';
-        } else {
-            break;
-        }
-    }
-    return lue;
+    for (; i < texte.size() && (chiffre(texte[i]) || texte[i] == L'.'); ++i)
+        lue += static_cast<char>(texte[i]);
+    return lue;  // the conversion stops at a second point
 }
 
 }  // namespace

@@ -32,36 +32,36 @@ double Luminance(Couleur couleur) {
 
 // Black or white, whichever contrasts more.
 Couleur Encre_lisible(Couleur fond) {
-    const double luminance     = Luminance(fond);
-    const double contre_blanc  = 1.05 / (luminance + 0.05);
-    const double contre_noir   = (luminance + 0.05) / 0.05;
+    const double luminance    = Luminance(fond);
+    const double contre_blanc = 1.05 / (luminance + 0.05);
+    const double contre_noir  = (luminance + 0.05) / 0.05;
     return contre_blanc >= contre_noir ? palette[15] : palette[0];
 }
 }  // namespace
 
 void Afficher_espace_libre() {
-    Gestion_Fichiers &  f       = Principale();
-    const std::uint64_t libres  = Octets_libres(f.Unité_dest.Drive().substr(0, 2) + L"\\");
-    variables.Espace_libre_ko   = static_cast<double>(libres) / 1000.0;
-    const auto arrondi          = static_cast<std::uint64_t>(std::llround(variables.Espace_libre_ko));
+    Gestion_Fichiers &  f      = Principale();
+    const std::uint64_t libres = Octets_libres(f.Unité_dest.Drive().substr(0, 2) + L"\\");
+    variables.Espace_libre_ko  = static_cast<double>(libres) / 1000.0;
+    const auto arrondi         = static_cast<std::uint64_t>(std::llround(variables.Espace_libre_ko));
     f.Espace_libre.Caption(Format_milliers(arrondi) + L" Ko libres ");
     Application::Laisser_passer(true);
 }
 
 void Raccourcir_chemin(const Fenetre & fenetre, double largeur) {
-    const auto mesure      = [&](std::wstring_view texte) { return fenetre.Largeur_texte(texte); };
-    variables.Texte_chemin = Raccourcir(variables.Texte_chemin, largeur, mesure,
-                                        Principale().Unité_srce.Drive().substr(0, 2));
+    const auto mesure = [&](std::wstring_view texte) { return fenetre.Largeur_texte(texte); };
+    variables.Texte_chemin =
+        Raccourcir(variables.Texte_chemin, largeur, mesure, Principale().Unité_srce.Drive().substr(0, 2));
 }
 
 void Appliquer_couleur(int index) {
-    Gestion_Fichiers & f      = Principale();
+    Gestion_Fichiers & f       = Principale();
     const int          dernier = static_cast<int>(palette.size()) - 1;
-    const bool         neutre = index <= 0 || index > dernier;
-    const int          rang   = neutre ? gris_fonce : index;
-    const int          vif    = neutre ? gris_clair : std::min(index + 8, dernier);
-    const Couleur      fond   = palette[static_cast<std::size_t>(rang)];
-    const Couleur      ligne  = palette[static_cast<std::size_t>(vif)];
+    const bool         neutre  = index <= 0 || index > dernier;
+    const int          rang    = neutre ? gris_fonce : index;
+    const int          vif     = neutre ? gris_clair : std::min(index + 8, dernier);
+    const Couleur      fond    = palette[static_cast<std::size_t>(rang)];
+    const Couleur      ligne   = palette[static_cast<std::size_t>(vif)];
     for (Cadre * cadre : {&f.Cadre_srce, &f.Cadre_dest}) {
         cadre->BackColor(fond);
         cadre->BorderColor(ligne);
@@ -74,6 +74,4 @@ void Appliquer_couleur(int index) {
     for (Ligne & bord : f.Ligne_jauge) bord.BackColor(fond);
 }
 
-bool Est_disquette(const std::wstring & unite) {
-    return unite == L"a:" || unite == L"b:";
-}
+bool Est_disquette(const std::wstring & unite) { return unite == L"a:" || unite == L"b:"; }

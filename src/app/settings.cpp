@@ -10,7 +10,8 @@
 #include <algorithm>
 
 namespace {
-// Characters of a read buffer, terminator included. The yes/no, colour and limit buffers cut a longer value on purpose.
+// Characters of a read buffer, terminator included. The yes/no, colour and limit buffers cut a longer value
+// on purpose.
 constexpr unsigned tampon_texte   = 4096;
 constexpr unsigned tampon_oui_non = 4;
 constexpr unsigned tampon_couleur = 2;
@@ -18,7 +19,8 @@ constexpr unsigned tampon_taille  = 5;
 constexpr unsigned tampon_temps   = 4;
 constexpr unsigned tampon_bordure = 3;
 
-std::wstring Lire(const wchar_t * section, const std::wstring & cle, const wchar_t * defaut, unsigned tampon) {
+std::wstring Lire(const wchar_t * section, const std::wstring & cle, const wchar_t * defaut,
+                  unsigned tampon) {
     std::wstring valeur    = Lire_profil(variables.Fichier_ini, section, cle, defaut, tampon);
     variables.Longueur_lue = valeur.size();
     return valeur;
@@ -26,7 +28,8 @@ std::wstring Lire(const wchar_t * section, const std::wstring & cle, const wchar
 }  // namespace
 
 void Situer_profil() {
-    // The directory counts up to its first run of two blanks. A root keeps its "\", and the paths made from it two of them.
+    // The directory counts up to its first run of two blanks. A root keeps its "\", and the paths made from
+    // it two of them.
     std::wstring repertoire = Repertoire_programme();
     repertoire.resize(std::min(repertoire.find(L"  "), repertoire.size()));
     variables.Unite_programme  = repertoire.substr(0, 2);
@@ -38,17 +41,16 @@ void Lire_iconise() {
     variables.Option_iconise = Lire(Section::options, Cle::iconise, L"Non", tampon_oui_non);
 }
 
-bool Demarrage_iconise() {
-    return Est_oui(variables.Option_iconise);
-}
+bool Demarrage_iconise() { return Est_oui(variables.Option_iconise); }
 
 void Lire_bordure() {
     variables.Bordure = Valeur(Lire_profil({}, Section::windows, Cle::bordure, L"3", tampon_bordure));
 }
 
 void Lire_options_commandes() {
-    variables.Editeur     = Majuscules(Lire(Section::options, Cle::editeur, L"NOTEPAD.EXE", tampon_texte));
-    variables.Visualiseur = Majuscules(Lire(Section::options, Cle::visualiseur, L"PELMIRA.EXE", tampon_texte));
+    variables.Editeur = Majuscules(Lire(Section::options, Cle::editeur, L"NOTEPAD.EXE", tampon_texte));
+    variables.Visualiseur =
+        Majuscules(Lire(Section::options, Cle::visualiseur, L"PELMIRA.EXE", tampon_texte));
     variables.Confirme_commande     = Est_oui(Lire(Section::options, Cle::confirme, L"Non", tampon_oui_non));
     variables.Confirme_remplacement = Est_oui(Lire(Section::options, Cle::remplace, L"Oui", tampon_oui_non));
     variables.Option_aide           = Lire(Section::options, Cle::aide, L"Non", tampon_oui_non);
@@ -67,12 +69,11 @@ void Lire_limites_corbeille() {
     variables.Corbeille_active = true;
 }
 
-void Lire_couleur() {
-    variables.Option_couleur = Lire(Section::options, Cle::couleur, L"0", tampon_couleur);
-}
+void Lire_couleur() { variables.Option_couleur = Lire(Section::options, Cle::couleur, L"0", tampon_couleur); }
 
 void Lire_repertoire_initial() {
-    variables.Repertoire_initial = Majuscules(Lire(Section::options, Cle::repertoire, L"Racine", tampon_texte));
+    variables.Repertoire_initial =
+        Majuscules(Lire(Section::options, Cle::repertoire, L"Racine", tampon_texte));
 }
 
 std::vector<std::wstring> Cles_section(const wchar_t * section) {

@@ -2,8 +2,8 @@
 #include <string>
 #include <vector>
 
-// The settings file: where it is, what its sections and keys are called. Values are read into the globals, with the default
-// that holds when a key is missing.
+// The settings file: where it is, what its sections and keys are called. Values are read into the globals,
+// with the default that holds when a key is missing.
 
 namespace Section {
 inline constexpr const wchar_t * options    = L"Options";
@@ -29,16 +29,16 @@ inline constexpr const wchar_t * total       = L"Total";
 inline constexpr const wchar_t * bordure     = L"BorderWidth";  // of WIN.INI
 }  // namespace Cle
 
-void Situer_profil();              // Fichier_ini, Prefixe_fichiers, Unite_programme
-void Lire_iconise();               // Option_iconise
-void Lire_bordure();               // Bordure
-void Lire_options_commandes();     // Editeur, Visualiseur, Confirme_commande, Confirme_remplacement, Option_aide
-void Lire_limites_corbeille();     // size limit, else time limit; Corbeille_active
-void Lire_couleur();               // Option_couleur
-void Lire_repertoire_initial();    // Repertoire_initial, upper case
+void Situer_profil();           // Fichier_ini, Prefixe_fichiers, Unite_programme
+void Lire_iconise();            // Option_iconise
+void Lire_bordure();            // Bordure
+void Lire_options_commandes();  // Editeur, Visualiseur, Confirme_commande, Confirme_remplacement, Option_aide
+void Lire_limites_corbeille();  // size limit, else time limit; Corbeille_active
+void Lire_couleur();            // Option_couleur
+void Lire_repertoire_initial();  // Repertoire_initial, upper case
 
 std::vector<std::wstring> Cles_section(const wchar_t * section);
-std::wstring              Valeur_cle(const wchar_t * section, const std::wstring & cle);  // empty when missing
+std::wstring Valeur_cle(const wchar_t * section, const std::wstring & cle);  // empty when missing
 
 // Whether an option of the start is set: its first three characters are "OUI", any case.
 bool Demarrage_iconise();

@@ -31,8 +31,10 @@ void Mode_Click() {
     if (variables.Garde) return;
     Gestion_Fichiers & f      = Principale();
     variables.Mode_repertoire = !variables.Mode_repertoire;
-    if (variables.Mode_repertoire) Mode_repertoire(f);
-    else Mode_fichier(f);
+    if (variables.Mode_repertoire)
+        Mode_repertoire(f);
+    else
+        Mode_fichier(f);
     // The caption that the window takes again after having been an icon.
     f.Titre_sauve = f.Caption();
     for (Bouton_commande * bouton :
@@ -43,6 +45,4 @@ void Mode_Click() {
 }
 }  // namespace
 
-void Brancher_mode(Gestion_Fichiers & f) {
-    f.Mode.Brancher(Mode_Click);
-}
+void Brancher_mode(Gestion_Fichiers & f) { f.Mode.Brancher(Mode_Click); }

@@ -11,7 +11,7 @@ namespace {
 constexpr const wchar_t * tous_les_fichiers = L"*.*";
 
 void Sélection_fichiers_Change() {
-    Gestion_Fichiers &  f     = Principale();
+    Gestion_Fichiers & f     = Principale();
     const std::wstring motif = f.Sélection_fichiers.Text();
     if (motif.empty()) return f.Sélection_fichiers.Text(tous_les_fichiers);  // comes back here
     const auto appliquer = [&] {
@@ -32,7 +32,7 @@ void Sélection_fichiers_Change() {
 
 void Sélection_fichiers_Click() {
     if (variables.Garde) return;
-    Gestion_Fichiers & f = Principale();
+    Gestion_Fichiers & f     = Principale();
     const int          index = f.Sélection_fichiers.ListIndex();
     if (index < 0) return;
     f.Sélection_fichiers.Text(f.Liste_sel.List(index));
@@ -40,7 +40,8 @@ void Sélection_fichiers_Click() {
 }
 
 void Sélection_fichiers_KeyPress(wchar_t & caractere) {
-    // What is typed goes into the text as it is; the files counted so far are no longer what the pattern will show.
+    // What is typed goes into the text as it is; the files counted so far are no longer what the pattern will
+    // show.
     if (caractere > L' ') Vider_selection(Principale());
 }
 }  // namespace
@@ -48,8 +49,10 @@ void Sélection_fichiers_KeyPress(wchar_t & caractere) {
 void Appliquer_motif(Liste_fichiers & liste) {
     if (liste.Path().empty()) return;
     // An unchanged list keeps its place: nothing moves under the user's eyes.
-    if (liste.Pattern() == Principale().Motif_courant) liste.Refresh();
-    else liste.Relire(liste.Path(), Principale().Motif_courant);
+    if (liste.Pattern() == Principale().Motif_courant)
+        liste.Refresh();
+    else
+        liste.Relire(liste.Path(), Principale().Motif_courant);
     liste.Tout_selectionner(false);
 }
 

@@ -31,17 +31,15 @@ Panneau Destination(Gestion_Fichiers & f) {
 }
 
 // The drive list back on the drive of what its pane still shows.
-void Remettre_unite(const Panneau & p) {
-    p.unite.Drive_sans_evenement(p.repertoire.Path());
-}
+void Remettre_unite(const Panneau & p) { p.unite.Drive_sans_evenement(p.repertoire.Path()); }
 
 void Suivre_repertoire(const Panneau & p) {
     p.fichiers.Path(p.repertoire.Path());
     p.chemin.Text(p.repertoire.Path());
 }
 
-// Opens the current entry of a directory list. The pane is read from disk even when it stays where it was: that is how a
-// changed diskette is seen. Both file lists lose their selection.
+// Opens the current entry of a directory list. The pane is read from disk even when it stays where it was:
+// that is how a changed diskette is seen. Both file lists lose their selection.
 void Ouvrir_entree(const Panneau & p, const Panneau & autre) {
     const std::wstring avant = p.repertoire.Path();
     p.repertoire.Path(p.repertoire.List(p.repertoire.ListIndex()));
@@ -79,7 +77,8 @@ void Unité_dest_Change() {
 }
 
 // Enter in a drive list forces the change to be treated, even of the drive chosen already.
-void Valider_unite(const Panneau & p, const std::wstring & commande, wchar_t & caractere, void (*changement)()) {
+void Valider_unite(const Panneau & p, const std::wstring & commande, wchar_t & caractere,
+                   void (*changement)()) {
     if (caractere != Touche::entree) return;
     caractere = 0;
     Pieger(
@@ -152,8 +151,10 @@ void Retrouver_fichier_choisi() {
         variables.Index_courant = 0;
         Selection_suivante(1);
         if (!variables.Fichier_trouve) return;
-        if (variables.Mode_resultats) Chemin_destination();
-        else Chemins_fichier();
+        if (variables.Mode_resultats)
+            Chemin_destination();
+        else
+            Chemins_fichier();
     });
 }
 
@@ -231,24 +232,24 @@ void Fichier_srce_PathChange() {
 }
 
 void Brancher_panneaux(Gestion_Fichiers & f) {
-    f.Unité_srce.Change         = Unité_srce_Change;
-    f.Unité_srce.KeyPress       = Unité_srce_KeyPress;
-    f.Unité_dest.Change         = Unité_dest_Change;
-    f.Unité_dest.KeyPress       = Unité_dest_KeyPress;
-    f.Répertoire_srce.Change    = Répertoire_srce_Change;
-    f.Répertoire_srce.Click     = Répertoire_srce_Click;
-    f.Répertoire_srce.KeyPress  = Sur_entree(Répertoire_srce_Click);
-    f.Répertoire_srce.KeyDown   = Sur_suppr(f.Supprimer);
-    f.Répertoire_dest.Change    = Répertoire_dest_Change;
-    f.Répertoire_dest.Click     = Répertoire_dest_Click;
-    f.Répertoire_dest.KeyPress  = Sur_entree(Répertoire_dest_Click);
-    f.Fichier_srce.DblClick     = Retrouver_fichier_choisi;
-    f.Fichier_srce.KeyDown      = Sur_suppr(f.Effacer);
-    f.Fichier_srce.KeyPress     = Fichier_srce_KeyPress;
-    f.Fichier_srce.MouseDown    = Fichier_srce_MouseDown;
-    f.Fichier_srce.PathChange   = Fichier_srce_PathChange;
-    f.Fichier_sél.DblClick      = Retrouver_fichier_choisi;
-    f.Fichier_sél.KeyDown       = Sur_suppr(f.Effacer);
-    f.Fichier_dest.Click        = Fichier_dest_Click;
+    f.Unité_srce.Change        = Unité_srce_Change;
+    f.Unité_srce.KeyPress      = Unité_srce_KeyPress;
+    f.Unité_dest.Change        = Unité_dest_Change;
+    f.Unité_dest.KeyPress      = Unité_dest_KeyPress;
+    f.Répertoire_srce.Change   = Répertoire_srce_Change;
+    f.Répertoire_srce.Click    = Répertoire_srce_Click;
+    f.Répertoire_srce.KeyPress = Sur_entree(Répertoire_srce_Click);
+    f.Répertoire_srce.KeyDown  = Sur_suppr(f.Supprimer);
+    f.Répertoire_dest.Change   = Répertoire_dest_Change;
+    f.Répertoire_dest.Click    = Répertoire_dest_Click;
+    f.Répertoire_dest.KeyPress = Sur_entree(Répertoire_dest_Click);
+    f.Fichier_srce.DblClick    = Retrouver_fichier_choisi;
+    f.Fichier_srce.KeyDown     = Sur_suppr(f.Effacer);
+    f.Fichier_srce.KeyPress    = Fichier_srce_KeyPress;
+    f.Fichier_srce.MouseDown   = Fichier_srce_MouseDown;
+    f.Fichier_srce.PathChange  = Fichier_srce_PathChange;
+    f.Fichier_sél.DblClick     = Retrouver_fichier_choisi;
+    f.Fichier_sél.KeyDown      = Sur_suppr(f.Effacer);
+    f.Fichier_dest.Click       = Fichier_dest_Click;
     f.Croiser.Brancher(Croiser_Click);
 }

@@ -16,8 +16,9 @@
 #include <algorithm>
 
 namespace {
-constexpr Couleur fond_tout_selectionne  = 0x80000018;
-constexpr Couleur encre_tout_selectionne = 0x80000017;
+// Not the colours of tips: some desktops draw those as white as a window.
+constexpr Couleur fond_tout_selectionne  = 0x00A0F0FF;
+constexpr Couleur encre_tout_selectionne = 0x00000000;
 
 // Sets what the window keeps of a selection, and the message line.
 void Compter(Gestion_Fichiers & f, std::size_t nombre, std::uint64_t total, const std::wstring & premier) {
@@ -39,18 +40,20 @@ void Compter_liste(Gestion_Fichiers & f) {
 }
 
 Fichier_choisi Resultat(const std::wstring & chemin) {
-    return {std::wstring(Nom_du_chemin(chemin)), std::wstring(Repertoire_du_chemin(chemin)), Longueur_fichier(chemin)};
+    return {std::wstring(Nom_du_chemin(chemin)), std::wstring(Repertoire_du_chemin(chemin)),
+            Longueur_fichier(chemin)};
 }
 
 void Fichier_sél_Click() {
     if (variables.Garde) return;
     Pieger(L"FICHIER SOURCE", [] {
-        Gestion_Fichiers & f = Principale();
+        Gestion_Fichiers & f    = Principale();
         variables.Index_courant = 0;
         std::uint64_t total     = 0;
         const auto    selection = f.Fichier_sél.Selection();
         for (const int index : selection) total += Longueur_fichier(f.Fichier_sél.List(index));
-        const std::wstring premier = selection.empty() ? std::wstring() : f.Fichier_sél.List(selection.front());
+        const std::wstring premier =
+            selection.empty() ? std::wstring() : f.Fichier_sél.List(selection.front());
         Compter(f, selection.size(), total, std::wstring(Nom_du_chemin(premier)));
     });
 }
@@ -77,8 +80,10 @@ void Sélecte_Click() {
     if (variables.Garde) return;
     Pieger(L"SELECTE", [] {
         Gestion_Fichiers & f = Principale();
-        if (variables.Tout_selectionne) Vider_selection(f);
-        else Commencer_tout_selectionne(f);
+        if (variables.Tout_selectionne)
+            Vider_selection(f);
+        else
+            Commencer_tout_selectionne(f);
     });
 }
 
@@ -105,17 +110,18 @@ void Fichier_srce_Click() {
 }
 
 void Selection_suivante(int direction) {
-    variables.Fichier_trouve = false;
+    variables.Fichier_trouve   = false;
     const Gestion_Fichiers & f = Principale();
-    variables.Liste_courante = variables.Mode_resultats ? &f.Fichier_sél : &static_cast<const Liste &>(f.Fichier_srce);
-    const Liste & liste      = *variables.Liste_courante;
+    variables.Liste_courante =
+        variables.Mode_resultats ? &f.Fichier_sél : &static_cast<const Liste &>(f.Fichier_srce);
+    const Liste & liste = *variables.Liste_courante;
     if (variables.Index_courant > liste.ListCount() - 1) return;
     const bool avant = direction == 1;
     const int  index = Prochaine(liste, variables.Index_courant, avant);
     variables.Fichier_courant.clear();
     if (index < 0) return;
-    variables.Index_courant  = index + (avant ? 1 : -1);
-    variables.Fichier_trouve = true;
+    variables.Index_courant   = index + (avant ? 1 : -1);
+    variables.Fichier_trouve  = true;
     const std::wstring texte  = liste.List(index);
     variables.Fichier_courant = Nom_du_chemin(texte);
     variables.Chemin_source   = variables.Mode_resultats ? texte : Joindre(f.Fichier_srce.Path(), texte);
@@ -132,7 +138,8 @@ void Chemin_destination() {
 
 Parcours::Parcours(const Gestion_Fichiers & f) {
     if (variables.Mode_resultats) {
-        for (const int index : f.Fichier_sél.Selection()) fichiers_.push_back(Resultat(f.Fichier_sél.List(index)));
+        for (const int index : f.Fichier_sél.Selection())
+            fichiers_.push_back(Resultat(f.Fichier_sél.List(index)));
     } else {
         const auto & entrees = f.Fichier_srce.Entrees();
         for (const int index : f.Fichier_srce.Selection()) {

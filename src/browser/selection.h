@@ -10,10 +10,10 @@ struct Gestion_Fichiers;
 // Which files a command works on, and the message line that counts them.
 void Brancher_selection(Gestion_Fichiers & f);
 
-// Delivers the next selected entry of Liste_courante from Index_courant on (1 forward, else backward) into Fichier_courant,
-// Chemin_source and Fichier_trouve; the next call goes on behind it.
+// Delivers the next selected entry of Liste_courante from Index_courant on (1 forward, else backward) into
+// Fichier_courant, Chemin_source and Fichier_trouve; the next call goes on behind it.
 void Selection_suivante(int direction);
-void Chemins_fichier();     // Chemin_source of Fichier_courant in the SOURCE directory, then Chemin_destination
+void Chemins_fichier();  // Chemin_source of Fichier_courant in the SOURCE directory, then Chemin_destination
 void Chemin_destination();  // Chemin_cible: the same name in the DESTINATION directory
 
 // One file that a command works on.
@@ -40,8 +40,9 @@ private:
     std::uint64_t               total_   = 0;
 };
 
-void Signaler_absence_selection();           // the notice of a command that has nothing to work on
-void Vider_selection(Gestion_Fichiers & f);  // nothing selected, message line empty, select-all mode ended; no event
+void Signaler_absence_selection();  // the notice of a command that has nothing to work on
+void Vider_selection(
+    Gestion_Fichiers & f);  // nothing selected, message line empty, select-all mode ended; no event
 void Reprendre_entree(Gestion_Fichiers & f);  // selects and counts the entry Index_a_reprendre alone, if any
 void Terminer_tout_selectionne(Gestion_Fichiers & f);  // ends the select-all mode, the entries stay selected
 void Fichier_srce_Click();

@@ -26,8 +26,9 @@ void Confirmer_commande(const Gestion_Fichiers & f, const std::wstring & reperto
     const std::wstring & commande = variables.Commande_en_cours;
     const bool           vers     = commande == L"COPIER" || commande == L"DEPLACER";
     const std::wstring   question = Question_commande(commande, variables.Fichier_courant, repertoire,
-                                                      vers ? f.Répertoire_dest.Path() : std::wstring());
-    variables.Reponse = Poser(question, Plusieurs_fichiers(f) ? Boite::oui_non_annuler : Boite::oui_non, titre_gestionnaire);
+                                                    vers ? f.Répertoire_dest.Path() : std::wstring());
+    variables.Reponse =
+        Poser(question, Plusieurs_fichiers(f) ? Boite::oui_non_annuler : Boite::oui_non, titre_gestionnaire);
 }
 
 void Confirmer_remplacement(const Gestion_Fichiers & f) {
@@ -43,8 +44,9 @@ bool Verifier_espace(const Gestion_Fichiers & f, std::uint64_t total) {
     if (Tient(total, variables.Espace_libre_ko)) return true;
     const std::wstring unite      = f.Unité_dest.Drive();
     const std::int64_t disquettes = Disquettes(total);
-    const std::wstring question   = disquettes >= 2 && Est_disquette(unite) ? Question_disquettes(disquettes)
-                                                                            : Question_place(Majuscules(unite.substr(0, 2)));
+    const std::wstring question   = disquettes >= 2 && Est_disquette(unite)
+                                        ? Question_disquettes(disquettes)
+                                        : Question_place(Majuscules(unite.substr(0, 2)));
     variables.Reponse             = Poser(question, Boite::oui_non, variables.Commande_en_cours);
     return variables.Reponse == Reponse_boite::oui;
 }

@@ -14,8 +14,6 @@
 #include "toolkit/application.h"
 #include "toolkit/boites.h"
 
-#include <optional>
-
 namespace {
 // While it lives, Windows shutting down removes the half-made target before the process ends.
 class Abandon_en_fin_de_session {
@@ -35,20 +33,9 @@ Copie Conclure(Copie copie, int reponse) {
 
 void Refuser_copie_sur_soi() {
     Bip();
-    Message_boite(L"Le fichier " + Majuscules(variables.Fichier_courant) + L"\rne peut être copié sur lui-même.",
+    Message_boite(L"Le fichier " + Majuscules(variables.Fichier_courant) +
+                      L"\rne peut être copié sur lui-même.",
                   Boite::ok | Boite::exclamation, variables.Commande_en_cours);
-}
-
-// What an existing target makes of the file; nothing when the copy goes on.
-std::optional<Copie> Traiter_cible_existante(const Gestion_Fichiers & f) {
-    if (Meme_fichier(variables.Chemin_source, variables.Chemin_cible)) {
-        Refuser_copie_sur_soi();
-        return Conclure(Copie::ignoree, Reponse_boite::non);
-    }
-    Confirmer_remplacement(f);
-    if (variables.Reponse == Reponse_boite::non) return Copie::ignoree;
-    if (variables.Reponse == Reponse_boite::annuler) return Copie::arretee;
-    return std::nullopt;
 }
 
 void Montrer_jauge(Gestion_Fichiers & f, bool visible) {
@@ -76,6 +63,17 @@ bool Transferer(Gestion_Fichiers & f, Transfert & transfert) {
     }
 }
 }  // namespace
+
+std::optional<Copie> Traiter_cible_existante(const Gestion_Fichiers & f) {
+    if (Meme_fichier(variables.Chemin_source, variables.Chemin_cible)) {
+        Refuser_copie_sur_soi();
+        return Conclure(Copie::ignoree, Reponse_boite::non);
+    }
+    Confirmer_remplacement(f);
+    if (variables.Reponse == Reponse_boite::non) return Copie::ignoree;
+    if (variables.Reponse == Reponse_boite::annuler) return Copie::arretee;
+    return std::nullopt;
+}
 
 Copie Copier_fichier(Gestion_Fichiers & f, bool durable) {
     variables.Reponse   = Reponse_boite::oui;

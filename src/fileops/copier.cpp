@@ -17,8 +17,8 @@
 namespace {
 enum class Suite { continuer, terminer };
 
-// A name for the copy of a file in its own directory; an answer that names the file itself is asked for again.
-// False when the user gives none. Error 64 for anything but a bare name.
+// A name for the copy of a file in its own directory; an answer that names the file itself is asked for
+// again. False when the user gives none. Error 64 for anything but a bare name.
 bool Demander_nom_copie(const Gestion_Fichiers & f) {
     const std::wstring original = variables.Chemin_source;
     const std::wstring invite   = Question_nom_copie(Majuscules(variables.Fichier_courant));

@@ -44,7 +44,8 @@ struct Deplacement {
 
 void Refuser_meme_repertoire() {
     Bip();
-    Message_boite(L"Le répertoire 'DESTINATION' est le même que le répertoire 'SOURCE' ; il est interdit de déplacer un "
+    Message_boite(L"Le répertoire 'DESTINATION' est le même que le répertoire 'SOURCE' ; il est interdit de "
+                  L"déplacer un "
                   L"fichier sur lui-même.",
                   Boite::ok | Boite::exclamation, variables.Commande_en_cours);
 }
@@ -70,15 +71,19 @@ Suite Transporter(Deplacement & d) {
 Suite Renommer_vers_destination(Deplacement & d) {
     const bool existe = Fichier_existe(variables.Chemin_cible);
     variables.Reponse = Reponse_boite::oui;
-    if (existe) Confirmer_remplacement(d.f);
-    if (variables.Reponse == Reponse_boite::annuler) return Suite::terminer;
-    if (variables.Reponse == Reponse_boite::non) return Suite::continuer;
+    if (existe) {
+        if (const auto copie = Traiter_cible_existante(d.f)) {
+            return *copie == Copie::arretee ? Suite::terminer : Suite::continuer;
+        }
+    }
     // What is protected against writing is not replaced by a renaming either.
     if (existe && (Lire_attributs(variables.Chemin_cible) & Attribut::lecture) != 0) {
         throw Erreur_execution(Numero::acces_fichier, 0, variables.Chemin_cible);
     }
-    if (existe) Remplacer_fichier(variables.Chemin_source, variables.Chemin_cible);
-    else Renommer_fichier(variables.Chemin_source, variables.Chemin_cible);
+    if (existe)
+        Remplacer_fichier(variables.Chemin_source, variables.Chemin_cible);
+    else
+        Renommer_fichier(variables.Chemin_source, variables.Chemin_cible);
     if (variables.Mode_resultats) return Suite::continuer;
     if (!d.curseur.Retirer()) variables.Arret_demande = true;  // nothing left to move
     variables.Index_a_reprendre = d.curseur.Index();

@@ -12,13 +12,13 @@ public:
     // Whether a directory is the DESTINATION, under whatever name: other case, short name, substituted drive.
     bool Est(const std::wstring & repertoire);
 
-    // Brings the list and the free space up to date: four times a second at most, more seldom where reading the directory
-    // takes long, since the command waits meanwhile.
+    // Brings the list and the free space up to date: four times a second at most, more seldom where reading
+    // the directory takes long, since the command waits meanwhile.
     void Actualiser();
 
 private:
     Gestion_Fichiers & f_;
-    std::wstring       examine_;           // directory last compared
+    std::wstring       examine_;  // directory last compared
     bool               identique_ = false;
-    std::uint64_t      prochaine_ = 0;     // Horloge_ms of the next refresh
+    std::uint64_t      prochaine_ = 0;  // Horloge_ms of the next refresh
 };

@@ -4,14 +4,14 @@
 
 // The banner of the start, shown again as the about window: then its OK button is visible.
 struct Apropos : Fenetre {
-    Apropos() : Fenetre(L"Apropos", L"A propos de KORVANE", 5400, 2550, Bordure::banniere) {}
+    Apropos() : Fenetre(L"Apropos", L"A propos de KORVANE", 5400, 2250, Bordure::banniere) {}
 
     // clang-format off
-    Image           Icone       {*this, {L"Icone",        360,  360,  720,  720, L""}};
-    Etiquette       Nom         {*this, {L"Nom",         1320,  360, 3780,  300, L"KORVANE"}, Alignement::gauche, true};
-    Etiquette       Description {*this, {L"Description", 1320,  690, 3780,  300, L"Gestionnaire de fichiers"}};
-    Etiquette       Version     {*this, {L"Version",     1320, 1005, 3780,  300, L"Version 1.0"}};
-    Ligne           Separation  {*this, {L"Separation",   360, 1560, 4680,   15, L""}};
-    Bouton_commande OK          {*this, {L"OK",          1980, 1815, 1440,  375, L"OK"}};
+    Image           Icone       {*this, {L"Icone",        390,  765,  720,  720, L""}};
+    Cadre           Bandeau     {*this, {L"Bandeau",        0,    0, 1500, 2250, L""}};
+    Etiquette       Produit     {*this, {L"Produit",     1860,  420, 3300,  270, L"KORVANE"}, Alignement::gauche, true};
+    Etiquette       Description {*this, {L"Description", 1860,  735, 3300,  270, L"Gestionnaire de fichiers"}};
+    Etiquette       Version     {*this, {L"Version",     1860, 1050, 3300,  270, L"Version 1.0"}};
+    Bouton_commande OK          {*this, {L"OK",          1860, 1575, 1440,  375, L"OK"}};
     // clang-format on
 };

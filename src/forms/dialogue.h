@@ -21,7 +21,7 @@ struct Dialogue : Fenetre {
     // clang-format on
 
     std::array<Bouton_commande *, 3> Boutons{&Bouton1, &Bouton2, &Bouton3};
-    std::wstring                     Tag;                             // " 1", " 2" or " 3"
+    std::wstring                     Tag;                                    // " 1", " 2" or " 3"
     const int                        Cadre_horizontal = Width() - largeur;   // twips that the frame takes
     const int                        Cadre_vertical   = Height() - hauteur;  // with the caption bar
 };

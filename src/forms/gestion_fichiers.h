@@ -9,7 +9,8 @@
 #include <cstdint>
 #include <string>
 
-// The two-pane main window, 770 x 457 pixels at 96 DPI. Handlers are attached by the subsystems that own them.
+// The two-pane main window, 770 x 457 pixels at 96 DPI. Handlers are attached by the subsystems that own
+// them.
 struct Gestion_Fichiers : Fenetre {
     Gestion_Fichiers()
         : Fenetre(L"Gestion_Fichiers", L"Gestionnaire de fichiers  (Mode fichier)   ", 11550, 6855,
@@ -53,9 +54,9 @@ struct Gestion_Fichiers : Fenetre {
     Cadre             Cadre_dest         {*this, {L"Cadre_dest",         6930,   120,  4500, 4950, L"",                       aide_titre_dest}};
     // Message line and gauge
     Ligne             Ligne1             {*this, {L"Ligne1",              120,  5145, 11310,   45, L""}};
-    Bouton_commande   Prompt             {*this, {L"Prompt",              120,  5265,  1650,  360, L"&Ligne de commande",     aide_prompt}};
-    Liste_combinee    Ligne_commande     {*this, {L"Ligne_commande",     1860,  5280,  5010,  330, L"",                       aide_ligne_commande}, true};
-    Etiquette         Ligne_message      {*this, {L"Ligne_message",      1860,  5265,  5010,  360, L"",                       aide_ligne_message}};
+    Bouton_commande   Prompt             {*this, {L"Prompt",              120,  5265,  1860,  360, L"&Ligne de commande",     aide_prompt}};
+    Liste_combinee    Ligne_commande     {*this, {L"Ligne_commande",     2070,  5280,  4800,  330, L"",                       aide_ligne_commande}, true};
+    Etiquette         Ligne_message      {*this, {L"Ligne_message",      2070,  5265,  4800,  360, L"",                       aide_ligne_message}};
     Jauge_progression Jauge              {*this, {L"Jauge",              6990,  5295,  2820,  300, L"",                       aide_jauge}};
     std::array<Ligne, 4> Ligne_jauge{{
         {*this, {L"Ligne_jauge(0)", 6960, 5265, 2880, 15, L""}},
@@ -78,14 +79,14 @@ struct Gestion_Fichiers : Fenetre {
     Bouton_commande   Bouton_suite       {*this, {L"Bouton_suite",      10200,  5820,  1230,  360, L"Suiva&nts",              aide_bouton_suite}};
     // Windows of the program, help, end
     Ligne             Ligne3             {*this, {L"Ligne3",              120,  6255, 11310,   45, L""}};
-    Bouton_commande   Corbeille          {*this, {L"Corbeille",           120,  6375,  1785,  360, L"Cor&beille",             aide_corbeille}};
-    Bouton_commande   Configurer         {*this, {L"Configurer",         2025,  6375,  1785,  360, L"Confi&gurer",            aide_configurer}};
-    Bouton_commande   Options            {*this, {L"Options",            3930,  6375,  1785,  360, L"&Options",               aide_options}};
-    Bouton_commande   A_propos           {*this, {L"A_propos",           5835,  6375,  1785,  360, L"A propos de &KORVANE",   aide_a_propos}};
-    Bouton_commande   Aide               {*this, {L"Aide",               7740,  6375,  1785,  360, L"?",                      texte_introduction}};
-    Bouton_commande   Quitter            {*this, {L"Quitter",            9645,  6375,  1785,  360, L"&Quitter",               aide_quitter}};
+    Bouton_commande   Corbeille          {*this, {L"Corbeille",           120,  6375,  1950,  360, L"Cor&beille",             aide_corbeille}};
+    Bouton_commande   Configurer         {*this, {L"Configurer",         2190,  6375,  1950,  360, L"Confi&gurer",            aide_configurer}};
+    Bouton_commande   Options            {*this, {L"Options",            4260,  6375,  1950,  360, L"&Options",               aide_options}};
+    Bouton_commande   A_propos           {*this, {L"A_propos",           6330,  6375,  1950,  360, L"A propos de &KORVANE",   aide_a_propos}};
+    Bouton_commande   Aide               {*this, {L"Aide",               8400,  6375,   960,  360, L"?",                      texte_introduction}};
+    Bouton_commande   Quitter            {*this, {L"Quitter",            9480,  6375,  1950,  360, L"&Quitter",               aide_quitter}};
     // Help panel: below the client area until the window is made taller
-    Etiquette         Fenêtre            {*this, {L"Fenêtre",               0,  6855, 11550,  990, L""}, Alignement::gauche, false, true};
+    Etiquette         Fenêtre            {*this, {L"Fenêtre",             120,  6855, 11310,  990, L""}, Alignement::gauche, false, true};
     // Never shown: the disk tree and the patterns of the saved selections
     Liste_repertoires Répertoire         {*this, {L"Répertoire",          240,  1290,  4260, 1500, L""}};
     Liste             Liste_rép          {*this, {L"Liste_rép",           240,  2880,  4260, 2100, L""}, false};

@@ -11,17 +11,13 @@ namespace {
 // A directory must leave room for a short name in it, so its limit is lower than a file's.
 constexpr std::size_t plus_long_sans_prefixe = MAX_PATH - 12 - 1;
 
-bool Avec_unite(std::wstring_view chemin) {
-    return chemin.size() >= 2 && chemin[1] == L':';
-}
+bool Avec_unite(std::wstring_view chemin) { return chemin.size() >= 2 && chemin[1] == L':'; }
 
 bool Avec_prefixe(std::wstring_view chemin) {
     return chemin.starts_with(L"\\\\?\\") || chemin.starts_with(L"\\\\.\\");
 }
 
-bool Barre(wchar_t c) {
-    return c == L'\\' || c == L'/';
-}
+bool Barre(wchar_t c) { return c == L'\\' || c == L'/'; }
 
 bool Absolu(std::wstring_view chemin) {
     if (Avec_unite(chemin)) return chemin.size() >= 3 && Barre(chemin[2]);
@@ -76,11 +72,16 @@ std::wstring Prefixer(std::wstring_view chemin) {
     return forme;
 }
 
+// Never asked for the length first: with no buffer, or one of just the length, some systems overrun it for "d:".
 std::wstring Resoudre(const std::wstring & chemin) {
-    const DWORD  besoin = GetFullPathNameW(chemin.c_str(), 0, nullptr, nullptr);
-    std::wstring complet(besoin, L'\0');
-    const DWORD  lus = GetFullPathNameW(chemin.c_str(), besoin, complet.data(), nullptr);
-    if (besoin == 0 || lus == 0 || lus >= besoin) Lever_code(ERROR_INVALID_NAME, Acte::ouvrir, chemin);
+    constexpr DWORD marge = MAX_PATH;
+    std::wstring    complet;
+    DWORD           lus = 0;
+    for (DWORD taille = marge * 4; lus + marge > complet.size(); taille = lus + marge * 2) {
+        complet.resize(taille);
+        lus = GetFullPathNameW(chemin.c_str(), taille, complet.data(), nullptr);
+        if (lus == 0) Lever_code(ERROR_INVALID_NAME, Acte::ouvrir, chemin);
+    }
     complet.resize(lus);
     // "d:" may resolve with a final bar that nobody wrote.
     if (!Barre(chemin.back()) && complet.size() > 3 && complet.back() == L'\\') complet.pop_back();
@@ -90,8 +91,8 @@ std::wstring Resoudre(const std::wstring & chemin) {
 // The entry's own spelling; as given where the directory above cannot be read.
 std::wstring Nom_exact(const std::wstring & chemin, std::wstring_view nom) {
     WIN32_FIND_DATAW        trouve;
-    const Poignee_recherche recherche(
-        FindFirstFileExW(Forme_longue(chemin).c_str(), FindExInfoBasic, &trouve, FindExSearchNameMatch, nullptr, 0));
+    const Poignee_recherche recherche(FindFirstFileExW(Forme_longue(chemin).c_str(), FindExInfoBasic, &trouve,
+                                                       FindExSearchNameMatch, nullptr, 0));
     return recherche.Valide() ? std::wstring(trouve.cFileName) : std::wstring(nom);
 }
 
@@ -106,7 +107,7 @@ std::wstring Forme_longue(const std::wstring & chemin) {
     bool besoin = chemin.size() >= plus_long_sans_prefixe;
     if (!besoin) {
         const auto morceaux = Morceaux(chemin);
-        besoin              = std::any_of(morceaux.begin() + (morceaux.empty() ? 0 : 1), morceaux.end(), Nom_deforme);
+        besoin = std::any_of(morceaux.begin() + (morceaux.empty() ? 0 : 1), morceaux.end(), Nom_deforme);
     }
     return besoin ? Prefixer(chemin) : chemin;
 }
@@ -124,22 +125,26 @@ std::wstring Chemin_complet(const std::wstring & chemin) {
 
 std::wstring Nom_sur_disque(const std::wstring & repertoire) {
     std::wstring complet = Chemin_complet(repertoire);
-    if (complet.find_first_of(L"?*") != std::wstring::npos) Lever_code(ERROR_INVALID_NAME, Acte::lister, repertoire);
+    if (complet.find_first_of(L"?*") != std::wstring::npos)
+        Lever_code(ERROR_INVALID_NAME, Acte::lister, repertoire);
     const DWORD attributs = GetFileAttributesW(Forme_longue(complet).c_str());
     if (attributs == INVALID_FILE_ATTRIBUTES) {
         const DWORD code = GetLastError();
         Lever_code(code == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : code, Acte::lister, repertoire);
     }
-    if ((attributs & FILE_ATTRIBUTE_DIRECTORY) == 0) Lever_code(ERROR_PATH_NOT_FOUND, Acte::lister, repertoire);
+    if ((attributs & FILE_ATTRIBUTE_DIRECTORY) == 0)
+        Lever_code(ERROR_PATH_NOT_FOUND, Acte::lister, repertoire);
 
     const auto   morceaux = Morceaux(complet);
     const bool   unite    = Avec_unite(complet);
     std::wstring exact    = unite ? std::wstring(morceaux[0]) + L"\\" : L"\\\\";
-    if (unite) exact[0] = static_cast<wchar_t>(exact[0] >= L'a' && exact[0] <= L'z' ? exact[0] - 32 : exact[0]);
+    if (unite)
+        exact[0] = static_cast<wchar_t>(exact[0] >= L'a' && exact[0] <= L'z' ? exact[0] - 32 : exact[0]);
     for (std::size_t i = unite ? 1 : 0; i < morceaux.size(); ++i) {
         if (!Barre(exact.back())) exact += L'\\';
         const bool partage = !unite && i < 2;  // server and share are not entries of a directory
-        exact += partage ? std::wstring(morceaux[i]) : Nom_exact(exact + std::wstring(morceaux[i]), morceaux[i]);
+        exact +=
+            partage ? std::wstring(morceaux[i]) : Nom_exact(exact + std::wstring(morceaux[i]), morceaux[i]);
     }
     return exact;
 }

@@ -28,9 +28,7 @@ DWORD Code_proche(int numero) {
     }
 }
 
-bool Lettre_unite(wchar_t c) {
-    return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z');
-}
+bool Lettre_unite(wchar_t c) { return (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z'); }
 
 // "c:\" of a path that starts with a drive, with or without the long-path prefix; empty for others.
 std::wstring Racine(const std::wstring & chemin) {
@@ -39,9 +37,7 @@ std::wstring Racine(const std::wstring & chemin) {
     return {chemin[debut], L':', L'\\'};
 }
 
-bool Unite_listee(wchar_t lettre) {
-    return (GetLogicalDrives() >> ((lettre | 0x20) - L'a') & 1) != 0;
-}
+bool Unite_listee(wchar_t lettre) { return (GetLogicalDrives() >> ((lettre | 0x20) - L'a') & 1) != 0; }
 
 bool Volume_protege(const std::wstring & racine) {
     if (GetDriveTypeW(racine.c_str()) == DRIVE_CDROM) return true;
@@ -81,15 +77,16 @@ DWORD Preciser(DWORD code, Acte acte, const std::wstring & chemin) {
 }  // namespace
 
 std::wstring Erreur_execution::Texte() const {
-    const DWORD code   = code_systeme != 0 ? code_systeme : Code_proche(numero);
-    wchar_t *   alloue = nullptr;
-    const DWORD longueur =
-        FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-                       nullptr, code, 0, reinterpret_cast<wchar_t *>(&alloue), 0, nullptr);
+    const DWORD code     = code_systeme != 0 ? code_systeme : Code_proche(numero);
+    wchar_t *   alloue   = nullptr;
+    const DWORD longueur = FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM |
+                                              FORMAT_MESSAGE_IGNORE_INSERTS,
+                                          nullptr, code, 0, reinterpret_cast<wchar_t *>(&alloue), 0, nullptr);
     if (longueur == 0) return L"Erreur système " + std::to_wstring(code);
     std::wstring texte(alloue, longueur);
     LocalFree(alloue);
-    while (!texte.empty() && (texte.back() == L'\r' || texte.back() == L'\n' || texte.back() == L' ')) texte.pop_back();
+    while (!texte.empty() && (texte.back() == L'\r' || texte.back() == L'\n' || texte.back() == L' '))
+        texte.pop_back();
     return texte;
 }
 

@@ -6,16 +6,15 @@
 namespace {
 
 // What may be set; the others describe how the file is stored.
-constexpr DWORD attributs_reglables = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
-                                      FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_TEMPORARY | FILE_ATTRIBUTE_OFFLINE |
-                                      FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
+constexpr DWORD attributs_reglables =
+    FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE |
+    FILE_ATTRIBUTE_TEMPORARY | FILE_ATTRIBUTE_OFFLINE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
-std::uint64_t En_64(DWORD haut, DWORD bas) {
-    return std::uint64_t{haut} << 32 | bas;
-}
+std::uint64_t En_64(DWORD haut, DWORD bas) { return std::uint64_t{haut} << 32 | bas; }
 
 DWORD Attributs_ou_absent(const std::wstring & chemin) {
-    if (chemin.empty() || chemin.find_first_of(L"?*", chemin.starts_with(L"\\\\?\\") ? 4 : 0) != std::wstring::npos)
+    if (chemin.empty() ||
+        chemin.find_first_of(L"?*", chemin.starts_with(L"\\\\?\\") ? 4 : 0) != std::wstring::npos)
         return INVALID_FILE_ATTRIBUTES;
     try {
         return GetFileAttributesW(Forme_longue(chemin).c_str());
@@ -49,9 +48,8 @@ std::vector<Entree_repertoire> Lister(const std::wstring & repertoire, bool repe
     const std::wstring             filtre = Filtre_de_tout(repertoire);
     std::vector<Entree_repertoire> entrees;
     WIN32_FIND_DATAW               trouve;
-    const Poignee_recherche        recherche(FindFirstFileExW(filtre.c_str(), FindExInfoBasic, &trouve,
-                                                              FindExSearchNameMatch, nullptr,
-                                                              FIND_FIRST_EX_LARGE_FETCH));
+    const Poignee_recherche        recherche(FindFirstFileExW(
+               filtre.c_str(), FindExInfoBasic, &trouve, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
     if (!recherche.Valide()) {
         const DWORD code = GetLastError();
         if (Vide(code, repertoire)) return entrees;

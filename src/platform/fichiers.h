@@ -27,14 +27,16 @@ struct Entree_repertoire {
 // `repertoires` chooses directories or files. Errors 76 (no such directory), 70 (cannot be read), 71, 68.
 std::vector<Entree_repertoire> Lister(const std::wstring & repertoire, bool repertoires);
 
-std::wstring  Forme_longue(const std::wstring & chemin);  // with "\\?\" where the path needs it
-std::wstring  Chemin_complet(const std::wstring & chemin);  // absolute; relative to the current directory, or to its drive's for "d:"
-std::wstring  Nom_sur_disque(const std::wstring & repertoire);  // existing directory's path as spelled on disk, drive in capitals
+std::wstring Forme_longue(const std::wstring & chemin);  // with "\\?\" where the path needs it
+std::wstring Chemin_complet(
+    const std::wstring & chemin);  // absolute; relative to the current directory, or to its drive's for "d:"
+std::wstring Nom_sur_disque(
+    const std::wstring & repertoire);  // existing directory's path as spelled on disk, drive in capitals
 bool          Fichier_existe(const std::wstring & chemin);  // a file, not a directory
 bool          Repertoire_existe(const std::wstring & chemin);
 std::uint64_t Longueur_fichier(const std::wstring & chemin);
 std::uint32_t Lire_attributs(const std::wstring & chemin);
-void          Ecrire_attributs(const std::wstring & chemin, std::uint32_t attributs);  // exactly these; 0 means normal
+void Ecrire_attributs(const std::wstring & chemin, std::uint32_t attributs);  // exactly these; 0 means normal
 
 // True when both paths name one file on the disk: other spelling, short name, substituted drive, hard link.
 // False when either cannot be opened.
@@ -53,4 +55,4 @@ void         Creer_repertoire(const std::wstring & chemin);    // 75 when it exi
 void         Retirer_repertoire(const std::wstring & chemin);  // 75 when not empty or current
 std::wstring Repertoire_courant();
 // Makes a directory (and its drive) current. A path longer than the system allows for it is left alone.
-void         Changer_repertoire(const std::wstring & chemin);
+void Changer_repertoire(const std::wstring & chemin);

@@ -13,8 +13,8 @@ constexpr DWORD partage_complet = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHAR
 
 Poignee_fichier Ouvrir(const std::wstring & chemin, DWORD acces, DWORD partage) {
     // The flag is what lets a directory be opened; files do not mind it.
-    return Poignee_fichier(
-        CreateFileW(chemin.c_str(), acces, partage, nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    return Poignee_fichier(CreateFileW(chemin.c_str(), acces, partage, nullptr, OPEN_EXISTING,
+                                       FILE_FLAG_BACKUP_SEMANTICS, nullptr));
 }
 
 std::optional<BY_HANDLE_FILE_INFORMATION> Informations(const std::wstring & chemin) {
@@ -44,9 +44,12 @@ bool Meme_objet(const std::wstring & a, const std::wstring & b, bool repertoires
     const auto de_a = Informations(a);
     const auto de_b = Informations(b);
     if (!de_a || !de_b || !Memes_numeros(*de_a, *de_b)) return false;
-    const auto du_genre = [&](DWORD attributs) { return ((attributs & FILE_ATTRIBUTE_DIRECTORY) != 0) == repertoires; };
+    const auto du_genre = [&](DWORD attributs) {
+        return ((attributs & FILE_ATTRIBUTE_DIRECTORY) != 0) == repertoires;
+    };
     if (!du_genre(de_a->dwFileAttributes) || !du_genre(de_b->dwFileAttributes)) return false;
-    if (de_a->dwVolumeSerialNumber == de_b->dwVolumeSerialNumber && de_a->dwVolumeSerialNumber != 0) return true;
+    if (de_a->dwVolumeSerialNumber == de_b->dwVolumeSerialNumber && de_a->dwVolumeSerialNumber != 0)
+        return true;
     // Undecided, everything being equal: the same, since the mistake then costs a refusal and not a file.
     return Sonder(a, b).value_or(true);
 }
@@ -61,10 +64,6 @@ bool Meme(const std::wstring & a, const std::wstring & b, bool repertoires) {
 
 }  // namespace
 
-bool Meme_fichier(const std::wstring & a, const std::wstring & b) {
-    return Meme(a, b, false);
-}
+bool Meme_fichier(const std::wstring & a, const std::wstring & b) { return Meme(a, b, false); }
 
-bool Meme_repertoire(const std::wstring & a, const std::wstring & b) {
-    return Meme(a, b, true);
-}
+bool Meme_repertoire(const std::wstring & a, const std::wstring & b) { return Meme(a, b, true); }

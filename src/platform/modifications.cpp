@@ -17,8 +17,8 @@ void Verifier_disparition(const std::wstring & forme, const std::wstring & chemi
 }
 
 bool Egaux_a_la_casse_pres(const std::wstring & a, const std::wstring & b) {
-    return CompareStringOrdinal(a.c_str(), static_cast<int>(a.size()), b.c_str(), static_cast<int>(b.size()), TRUE) ==
-           CSTR_EQUAL;
+    return CompareStringOrdinal(a.c_str(), static_cast<int>(a.size()), b.c_str(), static_cast<int>(b.size()),
+                                TRUE) == CSTR_EQUAL;
 }
 
 bool Porte_le_nom(const std::wstring & forme) {
@@ -121,7 +121,8 @@ void Retirer_repertoire(const std::wstring & chemin) {
     const std::wstring forme = Forme_longue(chemin);
     if (!Present(forme)) {
         const DWORD code = GetLastError();
-        Lever_code(code == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : code, Acte::retirer_repertoire, chemin);
+        Lever_code(code == ERROR_FILE_NOT_FOUND ? ERROR_PATH_NOT_FOUND : code, Acte::retirer_repertoire,
+                   chemin);
     }
     if (Meme_repertoire(chemin, Repertoire_courant()))
         throw Erreur_execution(Numero::acces_fichier, ERROR_CURRENT_DIRECTORY, chemin);

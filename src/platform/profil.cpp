@@ -33,14 +33,14 @@ std::optional<std::string> Nom_de_fichier(const std::wstring & fichier) {
 }
 
 // A null key asks for the list of keys.
-std::string Lire(const std::string & fichier, const std::string & section, const char * cle, const std::string & defaut,
-                 std::size_t tampon) {
+std::string Lire(const std::string & fichier, const std::string & section, const char * cle,
+                 const std::string & defaut, std::size_t tampon) {
     std::string octets(std::max<std::size_t>(tampon, 1), '\0');
     const auto  taille = static_cast<DWORD>(octets.size());
     const DWORD lus    = fichier == "WIN.INI"
                              ? GetProfileStringA(section.c_str(), cle, defaut.c_str(), octets.data(), taille)
-                             : GetPrivateProfileStringA(section.c_str(), cle, defaut.c_str(), octets.data(), taille,
-                                                        fichier.c_str());
+                             : GetPrivateProfileStringA(section.c_str(), cle, defaut.c_str(), octets.data(),
+                                                        taille, fichier.c_str());
     octets.resize(lus);
     return octets;
 }
@@ -84,7 +84,7 @@ void Ecrire_profil(const std::wstring & fichier, const wchar_t * section, const 
     if (attributs != INVALID_FILE_ATTRIBUTES && (attributs & FILE_ATTRIBUTE_READONLY) != 0)
         Refuser(ERROR_ACCESS_DENIED, fichier);
     const std::string octets = valeur ? En_ansi(*valeur) : std::string();
-    if (!WritePrivateProfileStringA(En_ansi(section).c_str(), En_ansi(cle).c_str(), valeur ? octets.c_str() : nullptr,
-                                    nom->c_str()))
+    if (!WritePrivateProfileStringA(En_ansi(section).c_str(), En_ansi(cle).c_str(),
+                                    valeur ? octets.c_str() : nullptr, nom->c_str()))
         Refuser(GetLastError(), fichier);
 }

@@ -1,8 +1,8 @@
 #pragma once
 #include <utility>
 
-// Move-only owner of a system handle. The rule says what is invalid and how to close; closing keeps the last error. Needs no
-// system header, so that a class that holds one can be used everywhere.
+// Move-only owner of a system handle. The rule says what is invalid and how to close; closing keeps the last
+// error. Needs no system header, so that a class that holds one can be used everywhere.
 template <class Regle> class Proprietaire {
 public:
     using Type = typename Regle::Type;

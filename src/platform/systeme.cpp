@@ -19,13 +19,9 @@ std::wstring Repertoire_programme() {
     return chemin;
 }
 
-std::uint64_t Horloge_ms() {
-    return GetTickCount64();
-}
+std::uint64_t Horloge_ms() { return GetTickCount64(); }
 
-void Bip() {
-    MessageBeep(MB_OK);
-}
+void Bip() { MessageBeep(MB_OK); }
 
 Instance_unique::Instance_unique(const wchar_t * nom) {
     poignee_           = CreateMutexW(nullptr, FALSE, (std::wstring(L"Local\\") + nom).c_str());

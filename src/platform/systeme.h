@@ -3,8 +3,8 @@
 #include <string>
 
 std::wstring  Repertoire_programme();  // where the executable is, without a final "\" but for a root
-std::uint64_t Horloge_ms();            // milliseconds, monotonic: neither midnight nor a change of time moves it
-void          Bip();                   // the system's default beep
+std::uint64_t Horloge_ms();  // milliseconds, monotonic: neither midnight nor a change of time moves it
+void          Bip();         // the system's default beep
 
 // The name of one running program in the user's session.
 class Instance_unique {
@@ -13,7 +13,7 @@ public:
     ~Instance_unique();
     Instance_unique(const Instance_unique &)             = delete;
     Instance_unique & operator=(const Instance_unique &) = delete;
-    bool Deja_lancee() const { return deja_; }
+    bool              Deja_lancee() const { return deja_; }
 
 private:
     void * poignee_ = nullptr;

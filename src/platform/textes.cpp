@@ -25,7 +25,7 @@ Tables Faire_tables() {
     Tables t;
     for (std::size_t i = 0; i < nombre_de_caracteres; ++i) t.majuscule[i] = static_cast<wchar_t>(i);
     CharUpperBuffW(t.majuscule.data(), static_cast<DWORD>(nombre_de_caracteres));
-    t.ordre                     = t.majuscule;
+    t.ordre                    = t.majuscule;
     const auto oublier_accents = [&](std::size_t premier, std::size_t dernier) {
         for (std::size_t i = premier; i <= dernier; ++i) t.ordre[i] = Sans_accent(t.majuscule[i]);
     };
@@ -54,8 +54,8 @@ std::wstring Changer_casse(std::wstring_view texte, DWORD sens) {
     const int    taille = static_cast<int>(texte.size());
     // Upper and lower case of UTF-16 text have the length of the text: the mapping is one character to one.
     if (taille != 0)
-        LCMapStringEx(LOCALE_NAME_USER_DEFAULT, sens, texte.data(), taille, resultat.data(), taille, nullptr, nullptr,
-                      0);
+        LCMapStringEx(LOCALE_NAME_USER_DEFAULT, sens, texte.data(), taille, resultat.data(), taille, nullptr,
+                      nullptr, 0);
     return resultat;
 }
 
@@ -78,7 +78,7 @@ std::wstring Deux_chiffres(unsigned n) {
 
 std::string En_ansi(std::wstring_view texte) {
     if (texte.empty()) return {};
-    const int   taille = static_cast<int>(texte.size());
+    const int taille = static_cast<int>(texte.size());
     // Without this flag a letter of another alphabet becomes a look-alike, and a name becomes another name.
     const DWORD strict = WC_NO_BEST_FIT_CHARS;
     const int   besoin = WideCharToMultiByte(CP_ACP, strict, texte.data(), taille, nullptr, 0, "?", nullptr);
@@ -96,20 +96,17 @@ std::wstring De_ansi(std::string_view octets) {
     return texte;
 }
 
-bool Tient_en_ansi(std::wstring_view texte) {
-    return De_ansi(En_ansi(texte)) == texte;
-}
+bool Tient_en_ansi(std::wstring_view texte) { return De_ansi(En_ansi(texte)) == texte; }
 
-std::wstring Majuscules(std::wstring_view texte) {
-    return Changer_casse(texte, LCMAP_UPPERCASE);
-}
+std::wstring Majuscules(std::wstring_view texte) { return Changer_casse(texte, LCMAP_UPPERCASE); }
 
-std::wstring Minuscules(std::wstring_view texte) {
-    return Changer_casse(texte, LCMAP_LOWERCASE);
-}
+std::wstring Minuscules(std::wstring_view texte) { return Changer_casse(texte, LCMAP_LOWERCASE); }
 
-wchar_t Majuscule(wchar_t caractere) {
-    return Pliage().majuscule[caractere];
+wchar_t Majuscule(wchar_t caractere) { return Pliage().majuscule[caractere]; }
+
+void Plier_pour_ordre(std::wstring & texte) {
+    const Tables & tables = Pliage();
+    for (wchar_t & caractere : texte) caractere = tables.ordre[caractere];
 }
 
 int Comparer_sans_casse(std::wstring_view a, std::wstring_view b) {
@@ -132,7 +129,8 @@ std::wstring Format_date(std::uint64_t moment) {
     SYSTEMTIME t;
     if (!Moment_local(moment, t)) return {};
     const std::wstring separateur = Reglage(LOCALE_SDATE, L"/");
-    return Deux_chiffres(t.wDay) + separateur + Deux_chiffres(t.wMonth) + separateur + Deux_chiffres(t.wYear % 100u);
+    return Deux_chiffres(t.wDay) + separateur + Deux_chiffres(t.wMonth) + separateur +
+           Deux_chiffres(t.wYear % 100u);
 }
 
 std::wstring Format_heure(std::uint64_t moment) {

@@ -9,11 +9,12 @@
 
 namespace {
 
-constexpr std::size_t depart_habituel   = 64 * 1024;
-constexpr std::size_t transfert_maximal = 4 * 1024 * 1024;
+constexpr std::size_t depart_habituel = std::size_t{64} * 1024;
+// Beyond, the buffer leaves the processor's cache and copies slow down.
+constexpr std::size_t transfert_maximal = std::size_t{512} * 1024;
 constexpr double      duree_courte      = 0.010;  // seconds for one read and one write
 constexpr double      duree_longue      = 0.050;
-constexpr DWORD       attributs_copies  = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+constexpr DWORD attributs_copies = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
 
 // What one transfer leaves to the next: thousands of small files share one buffer, and the file that follows on a slow
 // medium does not start with a long transfer again.
@@ -62,8 +63,9 @@ std::wstring Forme_de_fichier(const std::wstring & chemin) {
 }
 
 [[noreturn]] void Lever_ouverture(const std::wstring & chemin) {
-    const DWORD code = GetLastError();
-    if (code == ERROR_ACCESS_DENIED && Repertoire_existe(chemin))
+    const DWORD code    = GetLastError();
+    const bool  obstacle = code == ERROR_ACCESS_DENIED || code == ERROR_FILE_EXISTS || code == ERROR_ALREADY_EXISTS;
+    if (obstacle && Repertoire_existe(chemin))
         throw Erreur_execution(Numero::acces_fichier, code, chemin);
     Lever_code(code, Acte::ouvrir, chemin);
 }
@@ -71,9 +73,11 @@ std::wstring Forme_de_fichier(const std::wstring & chemin) {
 }  // namespace
 
 Transfert::Transfert(const std::wstring & source)
-    : source_(source), tampon_(std::move(heritage.tampon)), transfert_(std::min(heritage.transfert, depart_habituel)) {
-    lecture_.Remplacer(CreateFileW(Forme_de_fichier(source).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                   nullptr, OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    : source_(source), tampon_(std::move(heritage.tampon)),
+      transfert_(std::min(heritage.transfert, depart_habituel)) {
+    lecture_.Remplacer(CreateFileW(Forme_de_fichier(source).c_str(), GENERIC_READ,
+                                   FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                   FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     if (!lecture_.Valide()) Lever_ouverture(source);
     longueur_ = Taille(lecture_.Valeur(), source);
 }
@@ -85,9 +89,9 @@ Transfert::~Transfert() {
 }
 
 void Transfert::Creer_cible(const std::wstring & cible) {
-    ecriture_.Remplacer(CreateFileW(Forme_de_fichier(cible).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, CREATE_NEW,
-                                    FILE_ATTRIBUTE_ARCHIVE, nullptr));
-    if (!ecriture_.Valide()) Lever_derniere_erreur(Acte::ouvrir, cible);
+    ecriture_.Remplacer(CreateFileW(Forme_de_fichier(cible).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    CREATE_NEW, FILE_ATTRIBUTE_ARCHIVE, nullptr));
+    if (!ecriture_.Valide()) Lever_ouverture(cible);
     cible_ = cible;
     cree_  = true;
 }

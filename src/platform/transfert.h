@@ -21,7 +21,7 @@ public:
 
     std::uint64_t Longueur() const { return longueur_; }  // of the source, when it was opened
 
-    // Creates the target, which must not exist (58).
+    // Creates the target, which must not exist (58; 75 when it is a directory).
     void Creer_cible(const std::wstring & cible);
     // Moves one block on; false when the source was at its end. Errors 61 (disk full), 57, 70, 71: the target is removed
     // and both files are closed before they are thrown.

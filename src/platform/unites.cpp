@@ -3,11 +3,14 @@
 #include "platform/textes.h"
 #include "platform/windows.h"
 
+#include <algorithm>
+
 namespace {
 
 std::wstring Etiquette(const std::wstring & racine) {
     wchar_t nom[MAX_PATH + 1] = L"";
-    if (!GetVolumeInformationW(racine.c_str(), nom, MAX_PATH + 1, nullptr, nullptr, nullptr, nullptr, 0)) return {};
+    if (!GetVolumeInformationW(racine.c_str(), nom, MAX_PATH + 1, nullptr, nullptr, nullptr, nullptr, 0))
+        return {};
     return nom;
 }
 
@@ -17,7 +20,8 @@ std::wstring Partage(wchar_t lettre) {
     static const auto lire = []() -> Connexion {
         const HMODULE mpr = LoadLibraryExW(L"mpr.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
         if (mpr == nullptr) return nullptr;
-        return reinterpret_cast<Connexion>(reinterpret_cast<void *>(GetProcAddress(mpr, "WNetGetConnectionW")));
+        return reinterpret_cast<Connexion>(
+            reinterpret_cast<void *>(GetProcAddress(mpr, "WNetGetConnectionW")));
     }();
     if (lire == nullptr) return {};
     const wchar_t unite[] = {lettre, L':', L'\0'};
@@ -30,7 +34,8 @@ std::wstring Partage(wchar_t lettre) {
     }
     // A connection that is remembered but not open at the moment still has its name.
     if (retour != NO_ERROR && retour != ERROR_CONNECTION_UNAVAIL) return {};
-    return nom.c_str();
+    nom.resize(std::min(nom.find(L'\0'), nom.size()));
+    return nom;
 }
 
 Unite Decrire(wchar_t lettre) {

@@ -8,7 +8,7 @@ enum class Genre_unite { amovible, fixe, reseau };
 struct Unite {
     wchar_t      lettre;  // lower case
     Genre_unite  genre;
-    std::wstring texte;   // "a:", "c: [LABEL]", "c:", "x: \\server\share"
+    std::wstring texte;  // "a:", "c: [LABEL]", "c:", "x: \\server\share"
 };
 
 // The drives present, in letter order. Never touches a removable medium.

@@ -128,10 +128,13 @@ void Patienter(unsigned millisecondes) {
     Laisser_passer(true);
 }
 
-Entree_reservee::Entree_reservee(Bouton_commande & bouton) : avant_(std::exchange(Etat().reserve, &bouton)) {}
+Entree_reservee::Entree_reservee(Bouton_commande & bouton)
+    : avant_(std::exchange(Etat().reserve, &bouton)), focus_(Controle_de_poignee(GetFocus())) {}
 
 Entree_reservee::~Entree_reservee() {
     Etat().reserve = avant_;
+    // A click on the button took the focus, and hiding the button passed it on.
+    if (focus_ != nullptr && focus_->Visible() && focus_->Enabled() && !focus_->A_le_focus()) focus_->SetFocus();
 }
 
 Sablier::Sablier() {

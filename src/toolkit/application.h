@@ -24,6 +24,7 @@ void Laisser_passer(bool toujours = false);
 void Patienter(unsigned millisecondes);
 
 // While it lives, mouse buttons and keys reach this control alone (and message boxes); Escape and its access key press it.
+// The focus goes back to where it was.
 class Entree_reservee {
 public:
     explicit Entree_reservee(Bouton_commande & bouton);
@@ -33,6 +34,7 @@ public:
 
 private:
     Bouton_commande * avant_;
+    Controle *        focus_;  // control of the program that had the focus, or null
 };
 
 // The hourglass pointer while it lives, on every window but over the button that input is reserved to.

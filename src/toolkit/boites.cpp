@@ -14,10 +14,10 @@ namespace {
 Fenetre * Devant() {
     if (Fenetre * active = Fenetre_de_poignee(GetActiveWindow())) return active;
     const auto & toutes = Fenetres();
-    for (auto fenetre = toutes.rbegin(); fenetre != toutes.rend(); ++fenetre) {
-        if ((*fenetre)->Montree() && IsWindowEnabled((*fenetre)->Poignee()) != FALSE) return *fenetre;
-    }
-    return nullptr;
+    const auto   devant = std::find_if(toutes.rbegin(), toutes.rend(), [](const Fenetre * fenetre) {
+        return fenetre->Montree() && IsWindowEnabled(fenetre->Poignee()) != FALSE;
+    });
+    return devant == toutes.rend() ? nullptr : *devant;
 }
 
 constexpr int marge          = 150;
@@ -88,5 +88,6 @@ std::wstring Choisir_fichier(const std::wstring & titre, const std::wstring & fi
     // The current directory is the SOURCE directory: browsing must not move it.
     demande.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
     if (GetOpenFileNameW(&demande) == FALSE) return {};
-    return chemin.c_str();
+    chemin.resize(chemin.find(L'\0'));
+    return chemin;
 }

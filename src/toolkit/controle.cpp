@@ -8,8 +8,6 @@
 #include <commctrl.h>
 
 namespace {
-constexpr UINT_PTR id_procedure = 1;
-
 SIZE Taille(int left, int top, int width, int height) {
     return {Pixels(left + width) - Pixels(left), Pixels(top + height) - Pixels(top)};
 }
@@ -47,13 +45,15 @@ Controle::Controle(Fenetre & fenetre, const Place & place, const Genre & genre)
                                reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), Module(), nullptr);
     Nommer(poignee_, nom_);
     SendMessageW(poignee_, WM_SETFONT, reinterpret_cast<WPARAM>(fenetre.police_), TRUE);
-    SetWindowSubclass(poignee_, Procedure, id_procedure, reinterpret_cast<DWORD_PTR>(this));
+    SetWindowLongPtrW(poignee_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    d_origine_ = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(poignee_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Controle::Procedure)));
 }
 
 Controle::~Controle() {
     fenetre_.Retirer(*this);
     if (IsWindow(poignee_) == FALSE) return;
-    RemoveWindowSubclass(poignee_, Procedure, id_procedure);
+    SetWindowLongPtrW(poignee_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(d_origine_));
     GlobalDeleteAtom(static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(RemovePropW(poignee_, L"nom"))));
     DestroyWindow(poignee_);
 }
@@ -91,6 +91,14 @@ void Controle::SetFocus() {
     if (GetActiveWindow() == fenetre_.Poignee()) ::SetFocus(poignee_);
 }
 
+void Controle::Reprendre_focus() {
+    ::SetFocus(poignee_);
+}
+
+void Controle::Focus_pris() {
+    fenetre_.actif_ = this;
+}
+
 bool Controle::A_le_focus() const {
     const HWND focus = GetFocus();
     return focus != nullptr && (focus == poignee_ || IsChild(poignee_, focus) != FALSE);
@@ -99,13 +107,13 @@ bool Controle::A_le_focus() const {
 void Controle::BackColor(Couleur couleur) {
     if (couleur == fond_) return;
     fond_ = couleur;
-    Refresh();
+    Controle::Refresh();  // repaints: the lists of the disk would read it again
 }
 
 void Controle::ForeColor(Couleur couleur) {
     if (couleur == encre_) return;
     encre_ = couleur;
-    Refresh();
+    Controle::Refresh();
 }
 
 void Controle::Refresh() {
@@ -137,38 +145,41 @@ void Controle::Texte_fenetre(const std::wstring & texte) {
 }
 
 std::intptr_t __stdcall Controle::Procedure(Poignee_fenetre poignee, unsigned message, std::uintptr_t mot,
-                                            std::intptr_t large, std::uintptr_t, std::uintptr_t reference) {
-    auto & controle = *reinterpret_cast<Controle *>(reference);
+                                            std::intptr_t large) {
+    return reinterpret_cast<Controle *>(GetWindowLongPtrW(poignee, GWLP_USERDATA))->Recevoir(message, mot, large);
+}
+
+std::intptr_t Controle::Recevoir(unsigned message, std::uintptr_t mot, std::intptr_t large) {
     switch (message) {
     case WM_SETCURSOR:
-        if (Pointeur_occupe(poignee)) {
+        if (Pointeur_occupe(poignee_)) {
             SetCursor(LoadCursorW(nullptr, IDC_WAIT));
             return TRUE;
         }
         break;
     case WM_MOUSEMOVE:
-        if (controle.MouseMove) controle.MouseMove();
-        if (controle.fenetre_.MouseMove) controle.fenetre_.MouseMove(&controle);
+        if (MouseMove) MouseMove();
+        if (fenetre_.MouseMove) fenetre_.MouseMove(this);
         break;
     case WM_LBUTTONDOWN:
-        if (controle.MouseDown) {
+        if (MouseDown) {
             bool finie = false;
-            controle.MouseDown(finie);
+            MouseDown(finie);
             if (finie) return 0;
         }
         break;
     case WM_SETFOCUS:
-        controle.fenetre_.actif_ = &controle;
-        if (controle.GotFocus) controle.GotFocus();
+        fenetre_.actif_ = this;
+        if (GotFocus) GotFocus();
         break;
     case WM_KILLFOCUS:
-        if (controle.LostFocus) controle.LostFocus();
+        if (LostFocus) LostFocus();
         break;
     default: break;
     }
     std::intptr_t resultat = 0;
-    if (controle.Message(message, mot, large, resultat)) return resultat;
-    resultat = DefSubclassProc(poignee, message, mot, large);
-    controle.Apres_message(message, mot, large);
+    if (Message(message, mot, large, resultat)) return resultat;
+    resultat = CallWindowProcW(d_origine_, poignee_, message, mot, large);
+    Apres_message(message, mot, large);
     return resultat;
 }

@@ -99,6 +99,9 @@ protected:
         (void)touche;
         return false;
     }
+    // The focus again after a box or another window: what was marked in the control stays as it was.
+    virtual void Reprendre_focus();
+    void         Focus_pris();  // this is the control that has the focus in its window from now on
     virtual bool Deroule() const { return false; }   // a drop-down list is open: Enter and Escape are its own
     virtual bool Veut_fleches() const { return false; }  // arrows walk through a group of options
     virtual void Peripherique_change() {}            // a device arrived or left
@@ -109,13 +112,16 @@ protected:
     void          Texte_fenetre(const std::wstring & texte);
 
 private:
-    static std::intptr_t __stdcall Procedure(Poignee_fenetre, unsigned, std::uintptr_t, std::intptr_t, std::uintptr_t,
-                                             std::uintptr_t);
+    static std::intptr_t __stdcall Procedure(Poignee_fenetre, unsigned, std::uintptr_t, std::intptr_t);
+    std::intptr_t Recevoir(unsigned message, std::uintptr_t mot, std::intptr_t large);
 
     Fenetre &       fenetre_;
     std::wstring    nom_;
     std::wstring    aide_;
     Poignee_fenetre poignee_ = nullptr;
+    // The system's own treatment of the window class. Replaced directly: the common controls' subclassing looks a window property
+    // up twice for each message, which costs more than adding an entry to a list.
+    std::intptr_t(__stdcall * d_origine_)(Poignee_fenetre, unsigned, std::uintptr_t, std::intptr_t) = nullptr;
     int             left_, top_, width_, height_;
     bool            actif_ = true;
     Couleur         fond_;

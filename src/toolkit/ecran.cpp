@@ -4,13 +4,9 @@
 #include "toolkit/fenetre.h"
 #include "toolkit/mesure.h"
 
-int Largeur_ecran() {
-    return Twips(GetSystemMetrics(SM_CXSCREEN));
-}
+int Largeur_ecran() { return Twips(GetSystemMetrics(SM_CXSCREEN)); }
 
-int Hauteur_ecran() {
-    return Twips(GetSystemMetrics(SM_CYSCREEN));
-}
+int Hauteur_ecran() { return Twips(GetSystemMetrics(SM_CYSCREEN)); }
 
 Point_twips Pointeur(const Fenetre & fenetre) {
     POINT point{};

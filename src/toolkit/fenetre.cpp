@@ -57,6 +57,12 @@ wchar_t Lettre_acces(const std::wstring & caption) {
 
 struct Rappels_fenetre {
     static LRESULT CALLBACK Procedure(HWND poignee, UINT message, WPARAM mot, LPARAM large) {
+        if (message == WM_GETMINMAXINFO) {
+            // A layout keeps its size on a screen smaller than it, where the system would cut the window down.
+            constexpr LONG sans_limite = 32767;
+            reinterpret_cast<MINMAXINFO *>(large)->ptMaxTrackSize = {sans_limite, sans_limite};
+            return 0;
+        }
         auto * fenetre = reinterpret_cast<Fenetre *>(GetWindowLongPtrW(poignee, GWLP_USERDATA));
         if (fenetre == nullptr) return DefWindowProcW(poignee, message, mot, large);
         return fenetre->Traiter(message, mot, large);

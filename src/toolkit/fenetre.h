@@ -75,6 +75,9 @@ private:
     std::intptr_t Colorer(void * dessin, Poignee_fenetre poignee);
     void          Activer(bool active);
     void          Survoler();
+    void          Notifier(Poignee_fenetre poignee, unsigned code);
+    void          Finir_session();
+    void          Peripherique_change();
     void          Demande_fermeture();
     bool          Touche_acces(wchar_t lettre);
     void          Passer_focus();

@@ -35,7 +35,7 @@ std::intptr_t Fenetre::Colorer(void * dessin, Poignee_fenetre poignee) {
 
 void Fenetre::Activer(bool active) {
     if (!active) return;
-    if (Utilisable(actif_)) ::SetFocus(actif_->Poignee());
+    if (Utilisable(actif_)) actif_->Reprendre_focus();
     else Premier_focus();
     if (Activate) Activate();
 }
@@ -62,15 +62,29 @@ void Fenetre::Demande_fermeture() {
     }
 }
 
+void Fenetre::Finir_session() {
+    bool refus = false;
+    if (QueryUnload) QueryUnload(refus, Fermeture::systeme);
+    // The system may end the process as soon as the message is treated.
+    Abandonner_pour_fin_de_session();
+    ExitProcess(0);
+}
+
+void Fenetre::Peripherique_change() {
+    for (Controle * controle : controles_) {
+        if (controle != nullptr) controle->Peripherique_change();
+    }
+    if (Unites_changees) Unites_changees();
+}
+
+void Fenetre::Notifier(Poignee_fenetre poignee, unsigned code) {
+    if (Controle * controle = Controle_de(poignee)) controle->Notification(code);
+}
+
 std::intptr_t Fenetre::Traiter(unsigned message, std::uintptr_t mot, std::intptr_t large) {
     switch (message) {
-    case WM_COMMAND:
-    case WM_HSCROLL: {
-        Controle *     controle = Controle_de(reinterpret_cast<HWND>(large));
-        const unsigned code     = message == WM_COMMAND ? HIWORD(mot) : LOWORD(mot);
-        if (controle != nullptr) controle->Notification(code);
-        return 0;
-    }
+    case WM_COMMAND: Notifier(reinterpret_cast<HWND>(large), HIWORD(mot)); return 0;
+    case WM_HSCROLL: Notifier(reinterpret_cast<HWND>(large), LOWORD(mot)); return 0;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORLISTBOX:
     case WM_CTLCOLOREDIT:
@@ -100,7 +114,7 @@ std::intptr_t Fenetre::Traiter(unsigned message, std::uintptr_t mot, std::intptr
         Activer(LOWORD(mot) != WA_INACTIVE && HIWORD(mot) == 0);
         return 0;
     case WM_SETFOCUS:
-        if (Utilisable(actif_)) ::SetFocus(actif_->Poignee());
+        if (Utilisable(actif_)) actif_->Reprendre_focus();
         else Premier_focus();
         return 0;
     case WM_MOUSEMOVE: Survoler(); break;
@@ -113,21 +127,10 @@ std::intptr_t Fenetre::Traiter(unsigned message, std::uintptr_t mot, std::intptr
     case WM_CLOSE: Demande_fermeture(); return 0;
     case WM_QUERYENDSESSION: return TRUE;
     case WM_ENDSESSION:
-        // The system may end the process as soon as this returns.
-        if (mot != 0) {
-            bool refus = false;
-            if (QueryUnload) QueryUnload(refus, Fermeture::systeme);
-            Abandonner_pour_fin_de_session();
-            ExitProcess(0);
-        }
+        if (mot != 0) Finir_session();
         return 0;
     case WM_DEVICECHANGE:
-        if (mot == DBT_DEVICEARRIVAL || mot == DBT_DEVICEREMOVECOMPLETE) {
-            for (Controle * controle : controles_) {
-                if (controle != nullptr) controle->Peripherique_change();
-            }
-            if (Unites_changees) Unites_changees();
-        }
+        if (mot == DBT_DEVICEARRIVAL || mot == DBT_DEVICEREMOVECOMPLETE) Peripherique_change();
         return TRUE;
     default: break;
     }

@@ -9,6 +9,12 @@ namespace {
 // Posted to oneself: the choice is reported once the combo box has finished with it.
 constexpr UINT message_choix = WM_APP + 1;
 constexpr int  rangees       = 12;  // of the drop-down list
+
+// The edit field inside takes the mouse moves that the combo box would have explained itself by.
+LRESULT CALLBACK Procedure_champ(HWND champ, UINT message, WPARAM mot, LPARAM large, UINT_PTR, DWORD_PTR) {
+    if (message == WM_MOUSEMOVE) SendMessageW(GetParent(champ), message, mot, large);
+    return DefSubclassProc(champ, message, mot, large);
+}
 }  // namespace
 
 Liste_combinee::Liste_combinee(Fenetre & fenetre, const Place & place, bool editable)
@@ -25,6 +31,7 @@ Liste_combinee::Liste_combinee(Fenetre & fenetre, const Place & place, bool edit
     SetWindowPos(Poignee(), nullptr, 0, 0, Pixels(Left() + Width()) - Pixels(Left()), Pixels(Height()) + rangee * rangees + 2,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     Envoyer(CB_LIMITTEXT, 32767);
+    if (editable_) SetWindowSubclass(GetWindow(Poignee(), GW_CHILD), Procedure_champ, 1, 0);
 }
 
 std::wstring Liste_combinee::Text() const {
@@ -99,9 +106,18 @@ bool Liste_combinee::Prendre_touche(int touche) {
     return true;
 }
 
+// The system marks the whole text of a combo box that gets the focus: the next key would replace it.
+void Liste_combinee::Reprendre_focus() {
+    const std::intptr_t marque = Envoyer(CB_GETEDITSEL);
+    Controle::Reprendre_focus();
+    if (editable_) Envoyer(CB_SETEDITSEL, 0, marque);
+}
+
 void Liste_combinee::Notification(unsigned code) {
     switch (code) {
     case CBN_SETFOCUS:
+        // A click gives the focus to the edit field inside, and nothing to the combo box itself.
+        Focus_pris();
         if (GotFocus) GotFocus();
         break;
     case CBN_KILLFOCUS:
@@ -124,6 +140,14 @@ void Liste_combinee::Notification(unsigned code) {
     }
 }
 
+// The text no longer comes from an entry, and stays as the handler left it.
+void Liste_combinee::Oublier_choix() {
+    const std::wstring texte = Texte_fenetre();
+    Envoyer(CB_SETCURSEL, static_cast<WPARAM>(-1));
+    Texte_fenetre(texte);
+    Caret_a_la_fin();
+}
+
 bool Liste_combinee::Message(unsigned message, std::uintptr_t mot, std::intptr_t, std::intptr_t & resultat) {
     if (message != message_choix) return false;
     resultat = 0;
@@ -134,7 +158,7 @@ bool Liste_combinee::Message(unsigned message, std::uintptr_t mot, std::intptr_t
         dernier_ = ListIndex();
         texte_   = Texte_fenetre();
         Choix_fait();
-        if (editable_) Envoyer(CB_SETCURSEL, static_cast<WPARAM>(-1));
+        if (editable_) Oublier_choix();
     }
     return true;
 }

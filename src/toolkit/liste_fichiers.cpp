@@ -9,23 +9,24 @@
 #include <string_view>
 
 namespace {
-// Sorts by name without regard to case. The folded names stand in one block: folding each name at each comparison costs
-// more than all the rest of the listing.
+// Sorts by name without regard to case; names that differ by their case alone keep an order of their own. The folded names
+// stand in one block: folding two names at each comparison costs more than all the rest of the listing.
 void Trier(std::vector<Entree_repertoire> & entrees) {
-    std::wstring             plies;
+    std::wstring             bloc;
     std::vector<std::size_t> debuts(entrees.size() + 1);
     for (std::size_t i = 0; i < entrees.size(); ++i) {
-        plies += entrees[i].nom;
-        debuts[i + 1] = plies.size();
+        bloc += entrees[i].nom;
+        debuts[i + 1] = bloc.size();
     }
-    CharUpperBuffW(plies.data(), static_cast<DWORD>(plies.size()));
+    Plier_pour_ordre(bloc);
     const auto plie = [&](std::size_t i) {
-        return std::wstring_view(plies).substr(debuts[i], debuts[i + 1] - debuts[i]);
+        return std::wstring_view(bloc).substr(debuts[i], debuts[i + 1] - debuts[i]);
     };
     std::vector<std::size_t> ordre(entrees.size());
     std::iota(ordre.begin(), ordre.end(), std::size_t{0});
     std::sort(ordre.begin(), ordre.end(), [&](std::size_t a, std::size_t b) {
-        const int sens = plie(a).compare(plie(b));
+        if (const int sens = plie(a).compare(plie(b)); sens != 0) return sens < 0;
+        const int sens = Comparer_sans_casse(entrees[a].nom, entrees[b].nom);
         return sens != 0 ? sens < 0 : entrees[a].nom < entrees[b].nom;
     });
     std::vector<Entree_repertoire> triees;

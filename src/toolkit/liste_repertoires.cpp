@@ -104,6 +104,7 @@ void Liste_repertoires::Montrer(int index) {
         noms.push_back(racine ? chemin : std::wstring(Nom_du_chemin(chemin)));
     }
     noms.insert(noms.end(), sous_repertoires_.begin(), sous_repertoires_.end());
+    textes.reserve(noms.size());
     for (const std::wstring & nom : noms) textes.push_back(nom.c_str());
     Remplir(textes);
     ListIndex(index);
@@ -117,7 +118,7 @@ int Liste_repertoires::ListIndex() const {
 }
 
 void Liste_repertoires::ListIndex(int index) {
-    Envoyer(LB_SETCURSEL, static_cast<WPARAM>(index + static_cast<int>(chaine_.size())));
+    Envoyer(LB_SETCURSEL, static_cast<WPARAM>(index) + chaine_.size());
 }
 
 int Liste_repertoires::ListCount() const {

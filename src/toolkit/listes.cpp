@@ -112,9 +112,14 @@ void Liste::Remplir(const std::vector<const wchar_t *> & textes) {
     Clear();
     // 32 bytes a name is what most need; the list grows by itself beyond.
     Envoyer(LB_INITSTORAGE, textes.size(), static_cast<LPARAM>(textes.size() * 32));
+    // Each entry moves the scroll bar, which is drawn at once unless the list passes for hidden: eight times slower.
+    const LONG_PTR style = GetWindowLongPtrW(Poignee(), GWL_STYLE);
+    SetWindowLongPtrW(Poignee(), GWL_STYLE, style & ~static_cast<LONG_PTR>(WS_VISIBLE));
     for (const wchar_t * texte : textes) Envoyer(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(texte));
     Envoyer(WM_SETREDRAW, TRUE);
-    Refresh();
+    if ((style & WS_VISIBLE) == 0) return;
+    SetWindowLongPtrW(Poignee(), GWL_STYLE, GetWindowLongPtrW(Poignee(), GWL_STYLE) | WS_VISIBLE);
+    RedrawWindow(Poignee(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
 }
 
 int Liste::Entree_survolee(bool & coupee) const {
@@ -152,15 +157,73 @@ void Liste::Notification(unsigned code) {
 bool Liste::Message(unsigned message, std::uintptr_t mot, std::intptr_t, std::intptr_t & resultat) {
     if (message == WM_LBUTTONDOWN || message == WM_LBUTTONDBLCLK) souris_ = true;
     if (message == WM_KEYDOWN) souris_ = false;
-    if (message == WM_KEYDOWN && mot == 'A' && GetKeyState(VK_CONTROL) < 0 && multiple_) {
-        Tout_selectionner(true);
-        touche_ = true;
-        if (Click) Click();
-        resultat = 0;
+    resultat = 0;
+    // The state of a key is a question to the system's server: asked for keys alone, not for each entry added.
+    if (message != WM_KEYDOWN && message != WM_CHAR) return false;
+    // With Alt as well, Ctrl makes letters of some keyboards.
+    const bool ctrl = GetKeyState(VK_CONTROL) < 0 && GetKeyState(VK_MENU) >= 0;
+    if (multiple_ && message == WM_KEYDOWN && ctrl) return Prendre_ctrl(static_cast<int>(mot));
+    if (message != WM_CHAR) return false;
+    if (multiple_ && mot > L' ' && !ctrl) {
+        Aller_a_initiale(static_cast<wchar_t>(mot));
         return true;
     }
     // Ctrl+A would go on as a first-letter search.
-    return message == WM_CHAR && mot < L' ';
+    return ctrl || mot < L' ';
+}
+
+// Where a key moves the focus entry, -1 when it does not.
+int Liste::Arrivee(int touche) const {
+    RECT interieur{};
+    GetClientRect(Poignee(), &interieur);
+    const int page    = static_cast<int>(interieur.bottom / std::max<std::intptr_t>(1, Envoyer(LB_GETITEMHEIGHT)));
+    const int courant = static_cast<int>(Envoyer(LB_GETCARETINDEX));
+    const int dernier = ListCount() - 1;
+    switch (touche) {
+    case VK_UP: return std::max(courant - 1, 0);
+    case VK_DOWN: return std::min(courant + 1, dernier);
+    case VK_PRIOR: return std::max(courant - page, 0);
+    case VK_NEXT: return std::min(courant + page, dernier);
+    case VK_HOME: return 0;
+    case VK_END: return dernier;
+    default: return -1;
+    }
+}
+
+// Ctrl and a moving key take the focus entry along and leave the selection; Ctrl and the space bar select that entry or not: so
+// the keyboard chooses files that do not stand together. System list boxes differ in it.
+bool Liste::Prendre_ctrl(int touche) {
+    if (ListCount() == 0 || GetKeyState(VK_SHIFT) < 0) return false;
+    const int arrivee = Arrivee(touche);
+    if (arrivee >= 0) {
+        Envoyer(LB_SETCARETINDEX, static_cast<WPARAM>(arrivee), FALSE);
+        touche_ = true;
+        return true;
+    }
+    if (touche != 'A' && touche != VK_SPACE) return false;
+    const auto courant = static_cast<int>(Envoyer(LB_GETCARETINDEX));
+    if (touche == 'A') {
+        Tout_selectionner(true);
+    } else {
+        Envoyer(LB_SETSEL, Selected(courant) ? FALSE : TRUE, courant);
+        Envoyer(LB_SETANCHORINDEX, static_cast<WPARAM>(courant));
+    }
+    touche_ = true;
+    if (Click) Click();
+    return true;
+}
+
+// The next entry that begins with the letter is selected, alone; some systems' list boxes would add those on the way.
+void Liste::Aller_a_initiale(wchar_t lettre) {
+    const wchar_t       debut[] = {lettre, L'\0'};
+    const std::intptr_t rang    = Envoyer(LB_FINDSTRING, static_cast<WPARAM>(ListIndex()), reinterpret_cast<LPARAM>(debut));
+    if (rang == LB_ERR) return;
+    Tout_selectionner(false);
+    Envoyer(LB_SETSEL, TRUE, rang);
+    Envoyer(LB_SETANCHORINDEX, static_cast<WPARAM>(rang));
+    Envoyer(LB_SETCARETINDEX, static_cast<WPARAM>(rang), FALSE);
+    touche_ = true;
+    if (Click) Click();
 }
 
 void Liste::Apres_message(unsigned message, std::uintptr_t, std::intptr_t) {

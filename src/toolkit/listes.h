@@ -41,6 +41,10 @@ protected:
         return 0;
     }
 
+    int  Arrivee(int touche) const;
+    bool Prendre_ctrl(int touche);
+    void Aller_a_initiale(wchar_t lettre);
+
     bool multiple_;
     bool touche_  = false;  // an entry has had the focus since the list was filled
     bool souris_  = false;
@@ -72,8 +76,11 @@ protected:
     void Choisir_en_silence(int index);
     bool Prendre_touche(int touche) override;
     bool Deroule() const override;
+    void Reprendre_focus() override;
 
 private:
+    void Oublier_choix();
+
     bool         editable_;
     int          dernier_ = -1;  // entry last reported
     bool         annule_  = false;
