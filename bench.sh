@@ -32,5 +32,14 @@ outils/prefixe.sh chauffer "$WINEPREFIX" build/windows-x64/gardien.exe
 en_wine() { echo "z:${1//\//\\}"; }
 lancer_wine 900 "$travail/resultats.txt" build/windows-x64/banc.exe "$(en_wine "$travail/cent_mille")" \
     "$(en_wine "$travail/travail")" "$(en_wine "$travail/programme/KORVANE.EXE")" || echo "mesures incomplètes" >>"$travail/resultats.txt"
-cat "$travail/resultats.txt"
+
+# The system's own counters know no private bytes here: the kernel's do.
+(cd "$travail/programme" && lancer_wine 30 /dev/null ./KORVANE.EXE) &
+sleep 5
+for processus in $(pgrep -f '^(.*[\\/])?KORVANE\.EXE'); do
+    grep -q "$WINEPREFIX" "/proc/$processus/environ" 2>/dev/null || continue
+    awk '/^Private_/ { ko += $2 } END { mo = ko / 1024; printf "%-44s %10.3f %10s %8s  <= 12.00  %s\n", "mémoire privée (Mo)", mo, "", "", mo <= 12 ? "atteint" : "NON ATTEINT" }' \
+        "/proc/$processus/smaps_rollup" >>"$travail/resultats.txt"
+done
+grep -v '^wine: ' "$travail/resultats.txt"
 ! grep -q "incomplètes" "$travail/resultats.txt"

@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
-#include <psapi.h>
 #include <string>
 #include <vector>
 
@@ -177,16 +176,11 @@ HWND Attendre_fenetre(DWORD processus, const std::function<bool(HWND)> & voulue)
     return recherche.trouvee;
 }
 
-struct Depart {
-    double secondes = 0;
-    double memoire  = 0;  // private bytes, in MB
-};
-
-Depart Demarrer(std::wstring ligne, const std::function<bool(HWND)> & voulue) {
+// Seconds from the start of a program to its window answering.
+double Demarrer(std::wstring ligne, const std::function<bool(HWND)> & voulue) {
     STARTUPINFOW        demarrage{};
     PROCESS_INFORMATION programme{};
     demarrage.cb = sizeof demarrage;
-    Depart       depart;
     const double debut = Secondes();
     if (CreateProcessW(nullptr, ligne.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &demarrage, &programme) == FALSE) {
         std::printf("démarrage impossible : %ls\n", ligne.c_str());
@@ -195,16 +189,12 @@ Depart Demarrer(std::wstring ligne, const std::function<bool(HWND)> & voulue) {
     const HWND fenetre = Attendre_fenetre(programme.dwProcessId, voulue);
     DWORD_PTR  reponse = 0;
     SendMessageTimeoutW(fenetre, WM_NULL, 0, 0, SMTO_BLOCK, 10000, &reponse);
-    depart.secondes = Secondes() - debut;
-    PROCESS_MEMORY_COUNTERS_EX memoire{};
-    memoire.cb = sizeof memoire;
-    GetProcessMemoryInfo(programme.hProcess, reinterpret_cast<PROCESS_MEMORY_COUNTERS *>(&memoire), sizeof memoire);
-    depart.memoire = static_cast<double>(memoire.PrivateUsage) / (1 << 20);
+    const double duree = Secondes() - debut;
     TerminateProcess(programme.hProcess, 0);
     WaitForSingleObject(programme.hProcess, 5000);
     CloseHandle(programme.hThread);
     CloseHandle(programme.hProcess);
-    return depart;
+    return duree;
 }
 
 void Mesurer_demarrage(const std::wstring & programme) {
@@ -225,8 +215,7 @@ void Mesurer_demarrage(const std::wstring & programme) {
     nous();
     editeur();
     Rangee("démarrage / éditeur du système",
-           Cote_a_cote(7, [&] { return nous().secondes; }, [&] { return editeur().secondes; }), 1.5);
-    Rangee_absolue("mémoire privée (Mo)", nous().memoire, 12);
+           Cote_a_cote(7, nous, editeur), 1.5);
     WIN32_FILE_ATTRIBUTE_DATA fichier{};
     GetFileAttributesExW(programme.c_str(), GetFileExInfoStandard, &fichier);
     Rangee_absolue("taille de l'exécutable (Mo)", fichier.nFileSizeLow / 1048576.0, 1.5);

@@ -3,7 +3,7 @@ file(GLOB mesures CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/bench/*.cpp")
 foreach(source IN LISTS mesures)
     get_filename_component(nom "${source}" NAME_WE)
     add_executable(${nom} "${source}")
-    target_link_libraries(${nom} PRIVATE gestionnaire boite_a_outils services logique psapi)
+    target_link_libraries(${nom} PRIVATE gestionnaire boite_a_outils services logique)
     korvane_entree(${nom})
 endforeach()
 

@@ -88,7 +88,7 @@ Copie Copier_fichier(Gestion_Fichiers & f, bool durable) {
     if (transfert.Longueur() == 0) return Copie::vide;
     f.Arret.Visible(true);
     Afficher_en_cours(f);
-    transfert.Creer_cible(variables.Chemin_cible);
+    transfert.Creer_cible(variables.Chemin_cible, durable);
     if (!Transferer(f, transfert)) {
         transfert.Abandonner();
         return Conclure(Copie::arretee, Reponse_boite::annuler);

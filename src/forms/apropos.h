@@ -4,7 +4,7 @@
 
 // The banner of the start, shown again as the about window: then its OK button is visible.
 struct Apropos : Fenetre {
-    Apropos() : Fenetre(L"Apropos", L"A propos de KORVANE", 5400, 2250, Bordure::banniere) {}
+    Apropos() : Fenetre(L"Apropos", L"À propos de KORVANE", 5400, 2250, Bordure::banniere) {}
 
     // clang-format off
     Image           Icone       {*this, {L"Icone",        390,  765,  720,  720, L""}};

@@ -34,7 +34,7 @@ struct Gestion_Fichiers : Fenetre {
     Bouton_commande   Effacer            {*this, {L"Effacer",            4740,   870,  2070,  360, L"&Effacer",               aide_effacer}};
     Bouton_commande   Supprimer          {*this, {L"Supprimer",          4740,   870,  2070,  360, L"Supprim&er",             aide_supprimer}};
     Bouton_commande   Renommer           {*this, {L"Renommer",           4740,  1245,  2070,  360, L"&Renommer",              aide_renommer}};
-    Bouton_commande   Editer             {*this, {L"Editer",             4740,  1770,  2070,  360, L"Edi&ter",                aide_editer}};
+    Bouton_commande   Editer             {*this, {L"Editer",             4740,  1770,  2070,  360, L"Édi&ter",                aide_editer}};
     Bouton_commande   Visualiser         {*this, {L"Visualiser",         4740,  2145,  2070,  360, L"&Visualiser",            aide_visualiser}};
     Bouton_commande   Exécuter           {*this, {L"Exécuter",           4740,  2520,  2070,  360, L"E&xécuter",              aide_exécuter}};
     Bouton_commande   Imprimer           {*this, {L"Imprimer",           4740,  2895,  2070,  360, L"Im&primer",              aide_imprimer}};
@@ -82,7 +82,7 @@ struct Gestion_Fichiers : Fenetre {
     Bouton_commande   Corbeille          {*this, {L"Corbeille",           120,  6375,  1950,  360, L"Cor&beille",             aide_corbeille}};
     Bouton_commande   Configurer         {*this, {L"Configurer",         2190,  6375,  1950,  360, L"Confi&gurer",            aide_configurer}};
     Bouton_commande   Options            {*this, {L"Options",            4260,  6375,  1950,  360, L"&Options",               aide_options}};
-    Bouton_commande   A_propos           {*this, {L"A_propos",           6330,  6375,  1950,  360, L"A propos de &KORVANE",   aide_a_propos}};
+    Bouton_commande   A_propos           {*this, {L"A_propos",           6330,  6375,  1950,  360, L"À propos de &KORVANE",   aide_a_propos}};
     Bouton_commande   Aide               {*this, {L"Aide",               8400,  6375,   960,  360, L"?",                      texte_introduction}};
     Bouton_commande   Quitter            {*this, {L"Quitter",            9480,  6375,  1950,  360, L"&Quitter",               aide_quitter}};
     // Help panel: below the client area until the window is made taller

@@ -12,6 +12,7 @@ namespace {
 constexpr std::size_t depart_habituel = std::size_t{64} * 1024;
 // Beyond, the buffer leaves the processor's cache and copies slow down.
 constexpr std::size_t transfert_maximal = std::size_t{512} * 1024;
+constexpr std::size_t pas_durable       = std::size_t{8} * 1024 * 1024;  // written between two flushes of a durable copy
 constexpr double      duree_courte      = 0.010;  // seconds for one read and one write
 constexpr double      duree_longue      = 0.050;
 constexpr DWORD attributs_copies = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
@@ -88,7 +89,8 @@ Transfert::~Transfert() {
     if (tampon_.size() <= depart_habituel) heritage.tampon = std::move(tampon_);
 }
 
-void Transfert::Creer_cible(const std::wstring & cible) {
+void Transfert::Creer_cible(const std::wstring & cible, bool durable) {
+    durable_ = durable;
     ecriture_.Remplacer(CreateFileW(Forme_de_fichier(cible).c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                     CREATE_NEW, FILE_ATTRIBUTE_ARCHIVE, nullptr));
     if (!ecriture_.Valide()) Lever_ouverture(cible);
@@ -165,6 +167,9 @@ void Transfert::Vider() {
         Lever_derniere_erreur(Acte::ecrire, cible_);
     ecrits_ += ecrits;
     if (ecrits != presents_) throw Erreur_execution(Numero::disque_plein, ERROR_DISK_FULL, cible_);
+    if (!durable_ || ecrits_ - fixes_ < pas_durable) return;
+    if (!FlushFileBuffers(ecriture_.Valeur())) Lever_derniere_erreur(Acte::ecrire, cible_);
+    fixes_ = ecrits_;
 }
 
 void Transfert::Achever(bool durable) {

@@ -22,7 +22,8 @@ public:
     std::uint64_t Longueur() const { return longueur_; }  // of the source, when it was opened
 
     // Creates the target, which must not exist (58; 75 when it is a directory).
-    void Creer_cible(const std::wstring & cible);
+    // `durable`: what is written goes to the disk little by little, so that the end has not all of it left to wait for.
+    void Creer_cible(const std::wstring & cible, bool durable = false);
     // Moves one block on; false when the source was at its end. Errors 61 (disk full), 57, 70, 71: the target is removed
     // and both files are closed before they are thrown.
     bool Bloc();
@@ -50,6 +51,8 @@ private:
     std::size_t            presents_  = 0;  // bytes in the buffer
     std::size_t            remis_     = 0;  // bytes of the buffer already counted as blocks
     std::size_t            transfert_ = 0;  // bytes asked for at a time
+    std::uint64_t          fixes_     = 0;  // bytes written that are on the disk
     bool                   fin_       = false;
+    bool                   durable_   = false;
     bool                   cree_      = false;
 };

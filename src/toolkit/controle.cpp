@@ -44,7 +44,7 @@ Controle::Controle(Fenetre & fenetre, const Place & place, const Genre & genre)
                                taille.cx, taille.cy, fenetre.Poignee(),
                                reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), Module(), nullptr);
     Nommer(poignee_, nom_);
-    SendMessageW(poignee_, WM_SETFONT, reinterpret_cast<WPARAM>(fenetre.police_), TRUE);
+    SendMessageW(poignee_, WM_SETFONT, reinterpret_cast<WPARAM>(fenetre.police_), FALSE);
     SetWindowLongPtrW(poignee_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     d_origine_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(poignee_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Controle::Procedure)));

@@ -5,6 +5,7 @@
 #include "pilote/fenetres.h"
 
 #include <array>
+#include <cstdint>
 #include <cstring>
 #include <map>
 #include <ostream>
@@ -89,18 +90,26 @@ DWORD Icone_du_processus(HANDLE processus, unsigned numero) {
     return icone;
 }
 
+std::uint64_t Naissance(HANDLE processus) {
+    FILETIME debut{}, fin{}, noyau{}, utilisateur{};
+    GetProcessTimes(processus, &debut, &fin, &noyau, &utilisateur);
+    return (static_cast<std::uint64_t>(debut.dwHighDateTime) << 32) | debut.dwLowDateTime;
+}
+
+// Numbers of processes come back soon: a process is known by its moment of birth as well.
 const std::map<DWORD, unsigned> & Icones_du_processus(DWORD processus) {
-    static std::map<DWORD, std::map<DWORD, unsigned>> connues;
-    auto &                                            icones = connues[processus];
-    if (!icones.empty()) return icones;
+    static std::map<std::pair<DWORD, std::uint64_t>, std::map<DWORD, unsigned>> connues;
     static constexpr std::pair<unsigned, unsigned> genres[] = {{32513, MB_ICONHAND},
                                                                {32514, MB_ICONQUESTION},
                                                                {32515, MB_ICONEXCLAMATION},
                                                                {32516, MB_ICONASTERISK}};
     HANDLE poignee = OpenProcess(PROCESS_ALL_ACCESS, FALSE, processus);
+    auto & icones  = connues[{processus, poignee ? Naissance(poignee) : 0}];
     if (!poignee) return icones;
-    for (const auto & [numero, style] : genres) icones[Icone_du_processus(poignee, numero)] = style;
-    icones.erase(0);
+    if (icones.empty()) {
+        for (const auto & [numero, style] : genres) icones[Icone_du_processus(poignee, numero)] = style;
+        icones.erase(0);
+    }
     CloseHandle(poignee);
     return icones;
 }
