@@ -60,7 +60,8 @@ void Rangee_absolue(const char * quoi, double valeur, double borne) {
 }
 
 void Ecrire_contenu(const std::wstring & chemin, std::uint64_t taille) {
-    Poignee_fichier fichier(CreateFileW(Forme_longue(chemin).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    Poignee_fichier fichier(
+        CreateFileW(Forme_longue(chemin).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
     std::vector<char> bloc(1 << 20);
     for (std::size_t i = 0; i < bloc.size(); ++i) bloc[i] = static_cast<char>(i * 31 + (i >> 8));
     while (taille > 0) {
@@ -89,8 +90,13 @@ void Mesurer_copies(const std::wstring & travail) {
         return duree;
     };
     une([&] { CopyFileExW(grand.c_str(), copie.c_str(), nullptr, nullptr, nullptr, 0); });
-    Rangee("copie de 1 Go / CopyFileExW", Cote_a_cote(5, [&] { return une([&] { Copier_par_moteur(grand, copie); }); },
-                [&] { return une([&] { CopyFileExW(grand.c_str(), copie.c_str(), nullptr, nullptr, nullptr, 0); }); }),
+    Rangee("copie de 1 Go / CopyFileExW",
+           Cote_a_cote(
+               5, [&] { return une([&] { Copier_par_moteur(grand, copie); }); },
+               [&] {
+                   return une(
+                       [&] { CopyFileExW(grand.c_str(), copie.c_str(), nullptr, nullptr, nullptr, 0); });
+               }),
            1.05);
     DeleteFileW(grand.c_str());
 
@@ -116,8 +122,9 @@ void Mesurer_copies(const std::wstring & travail) {
     };
     lot(systeme);
     Rangee("2 000 fichiers de 16 Ko / CopyFileExW",
-           Cote_a_cote(5, [&] { return lot([&](std::size_t i) { Copier_par_moteur(sources[i], cibles[i]); }); },
-                       [&] { return lot(systeme); }),
+           Cote_a_cote(
+               5, [&] { return lot([&](std::size_t i) { Copier_par_moteur(sources[i], cibles[i]); }); },
+               [&] { return lot(systeme); }),
            1.20);
 }
 
@@ -125,7 +132,7 @@ void Enumerer(const std::wstring & repertoire) {
     WIN32_FIND_DATAW  trouve{};
     Poignee_recherche recherche(FindFirstFileExW((repertoire + L"\\*").c_str(), FindExInfoBasic, &trouve,
                                                  FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
-    std::uint64_t total = 0;
+    std::uint64_t     total = 0;
     do total += trouve.nFileSizeLow;
     while (FindNextFileW(recherche.Valeur(), &trouve) != FALSE);
 }
@@ -148,16 +155,17 @@ void Mesurer_liste(const std::wstring & repertoire) {
     std::uint64_t total  = 0;
     const double  toutes = Duree([&] {
         liste.Tout_selectionner(true);
-        for (const int index : liste.Selection()) total += liste.Entrees()[static_cast<std::size_t>(index)].taille;
+        for (const int index : liste.Selection())
+            total += liste.Entrees()[static_cast<std::size_t>(index)].taille;
     });
     Rangee_absolue("tout sélectionner et compter (s)", toutes, 0.1);
 }
 
 HWND Attendre_fenetre(DWORD processus, const std::function<bool(HWND)> & voulue) {
     struct Recherche {
-        DWORD                              processus;
+        DWORD                             processus;
         const std::function<bool(HWND)> * voulue;
-        HWND                               trouvee;
+        HWND                              trouvee;
     } recherche{processus, &voulue, nullptr};
     const double limite = Secondes() + 20;
     while (recherche.trouvee == nullptr && Secondes() < limite) {
@@ -166,7 +174,8 @@ HWND Attendre_fenetre(DWORD processus, const std::function<bool(HWND)> & voulue)
                 auto & r   = *reinterpret_cast<Recherche *>(parametre);
                 DWORD  pid = 0;
                 GetWindowThreadProcessId(fenetre, &pid);
-                if (pid != r.processus || IsWindowVisible(fenetre) == FALSE || !(*r.voulue)(fenetre)) return TRUE;
+                if (pid != r.processus || IsWindowVisible(fenetre) == FALSE || !(*r.voulue)(fenetre))
+                    return TRUE;
                 r.trouvee = fenetre;
                 return FALSE;
             },
@@ -180,9 +189,10 @@ HWND Attendre_fenetre(DWORD processus, const std::function<bool(HWND)> & voulue)
 double Demarrer(std::wstring ligne, const std::function<bool(HWND)> & voulue) {
     STARTUPINFOW        demarrage{};
     PROCESS_INFORMATION programme{};
-    demarrage.cb = sizeof demarrage;
+    demarrage.cb       = sizeof demarrage;
     const double debut = Secondes();
-    if (CreateProcessW(nullptr, ligne.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &demarrage, &programme) == FALSE) {
+    if (CreateProcessW(nullptr, ligne.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &demarrage,
+                       &programme) == FALSE) {
         std::printf("démarrage impossible : %ls\n", ligne.c_str());
         std::exit(1);
     }
@@ -202,8 +212,8 @@ void Mesurer_demarrage(const std::wstring & programme) {
         return Demarrer(L"\"" + programme + L"\"", [](HWND fenetre) {
             wchar_t    nom[64] = L"";
             const auto atome   = static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(GetPropW(fenetre, L"nom")));
-            return atome != 0 && GlobalGetAtomNameW(atome, nom, 64) != 0 && std::wstring(nom) == L"Gestion_Fichiers" &&
-                   GetPropW(fenetre, L"sablier") == nullptr;
+            return atome != 0 && GlobalGetAtomNameW(atome, nom, 64) != 0 &&
+                   std::wstring(nom) == L"Gestion_Fichiers" && GetPropW(fenetre, L"sablier") == nullptr;
         });
     };
     const auto editeur = [] {
@@ -214,8 +224,7 @@ void Mesurer_demarrage(const std::wstring & programme) {
     };
     nous();
     editeur();
-    Rangee("démarrage / éditeur du système",
-           Cote_a_cote(7, nous, editeur), 1.5);
+    Rangee("démarrage / éditeur du système", Cote_a_cote(7, nous, editeur), 1.5);
     WIN32_FILE_ATTRIBUTE_DATA fichier{};
     GetFileAttributesExW(programme.c_str(), GetFileExInfoStandard, &fichier);
     Rangee_absolue("taille de l'exécutable (Mo)", fichier.nFileSizeLow / 1048576.0, 1.5);

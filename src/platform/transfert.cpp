@@ -12,10 +12,11 @@ namespace {
 constexpr std::size_t depart_habituel = std::size_t{64} * 1024;
 // Beyond, the buffer leaves the processor's cache and copies slow down.
 constexpr std::size_t transfert_maximal = std::size_t{512} * 1024;
-constexpr std::size_t pas_durable       = std::size_t{8} * 1024 * 1024;  // written between two flushes of a durable copy
-constexpr double      duree_courte      = 0.010;  // seconds for one read and one write
-constexpr double      duree_longue      = 0.050;
-constexpr DWORD attributs_copies = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
+constexpr std::size_t pas_durable =
+    std::size_t{8} * 1024 * 1024;           // written between two flushes of a durable copy
+constexpr double duree_courte     = 0.010;  // seconds for one read and one write
+constexpr double duree_longue     = 0.050;
+constexpr DWORD  attributs_copies = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM;
 
 // What one transfer leaves to the next: thousands of small files share one buffer, and the file that follows on a slow
 // medium does not start with a long transfer again.
@@ -64,10 +65,10 @@ std::wstring Forme_de_fichier(const std::wstring & chemin) {
 }
 
 [[noreturn]] void Lever_ouverture(const std::wstring & chemin) {
-    const DWORD code    = GetLastError();
-    const bool  obstacle = code == ERROR_ACCESS_DENIED || code == ERROR_FILE_EXISTS || code == ERROR_ALREADY_EXISTS;
-    if (obstacle && Repertoire_existe(chemin))
-        throw Erreur_execution(Numero::acces_fichier, code, chemin);
+    const DWORD code = GetLastError();
+    const bool  obstacle =
+        code == ERROR_ACCESS_DENIED || code == ERROR_FILE_EXISTS || code == ERROR_ALREADY_EXISTS;
+    if (obstacle && Repertoire_existe(chemin)) throw Erreur_execution(Numero::acces_fichier, code, chemin);
     Lever_code(code, Acte::ouvrir, chemin);
 }
 

@@ -12,8 +12,8 @@
 namespace {
 struct Etat_application {
     std::vector<Fenetre *> fenetres;
-    std::wstring           titre = L"KORVANE";
-    Bouton_commande *      reserve  = nullptr;
+    std::wstring           titre   = L"KORVANE";
+    Bouton_commande *      reserve = nullptr;
     std::function<void()>  defaire;
     std::uint64_t          dernier_regard = 0;  // Horloge_ms of the last look at the events
     int                    sabliers       = 0;
@@ -65,9 +65,7 @@ void Changer_sablier(int variation) {
 }
 }  // namespace
 
-std::vector<Fenetre *> & Fenetres() {
-    return Etat().fenetres;
-}
+std::vector<Fenetre *> & Fenetres() { return Etat().fenetres; }
 
 bool Pointeur_occupe(HWND poignee) {
     const Etat_application & etat = Etat();
@@ -75,9 +73,7 @@ bool Pointeur_occupe(HWND poignee) {
     return etat.reserve == nullptr || etat.reserve->Poignee() != poignee;
 }
 
-Bouton_commande * Bouton_reserve() {
-    return Etat().reserve;
-}
+Bouton_commande * Bouton_reserve() { return Etat().reserve; }
 
 void Abandonner_pour_fin_de_session() {
     if (const auto defaire = std::exchange(Etat().defaire, nullptr)) defaire();
@@ -103,17 +99,11 @@ void Terminer() {
     PostQuitMessage(0);
 }
 
-bool Terminee() {
-    return Etat().terminee;
-}
+bool Terminee() { return Etat().terminee; }
 
-void Titre(const std::wstring & titre) {
-    Etat().titre = titre;
-}
+void Titre(const std::wstring & titre) { Etat().titre = titre; }
 
-const std::wstring & Titre() {
-    return Etat().titre;
-}
+const std::wstring & Titre() { return Etat().titre; }
 
 void Laisser_passer(bool toujours) {
     Etat_application &  etat       = Etat();
@@ -134,20 +124,15 @@ Entree_reservee::Entree_reservee(Bouton_commande & bouton)
 Entree_reservee::~Entree_reservee() {
     Etat().reserve = avant_;
     // A click on the button took the focus, and hiding the button passed it on.
-    if (focus_ != nullptr && focus_->Visible() && focus_->Enabled() && !focus_->A_le_focus()) focus_->SetFocus();
+    if (focus_ != nullptr && focus_->Visible() && focus_->Enabled() && !focus_->A_le_focus())
+        focus_->SetFocus();
 }
 
-Sablier::Sablier() {
-    Changer_sablier(1);
-}
+Sablier::Sablier() { Changer_sablier(1); }
 
-Sablier::~Sablier() {
-    Changer_sablier(-1);
-}
+Sablier::~Sablier() { Changer_sablier(-1); }
 
-void Fin_de_session(std::function<void()> defaire) {
-    Etat().defaire = std::move(defaire);
-}
+void Fin_de_session(std::function<void()> defaire) { Etat().defaire = std::move(defaire); }
 
 }  // namespace Application
 

@@ -57,16 +57,18 @@ std::wstring Filtre_systeme(std::wstring filtre) {
 
 int Message_boite(const std::wstring & texte, unsigned style, const std::wstring & titre) {
     Fenetre * proprietaire = Devant();
-    return MessageBoxW(proprietaire == nullptr ? nullptr : proprietaire->Poignee(), texte.c_str(), titre.c_str(),
-                       style | MB_SETFOREGROUND);
+    return MessageBoxW(proprietaire == nullptr ? nullptr : proprietaire->Poignee(), texte.c_str(),
+                       titre.c_str(), style | MB_SETFOREGROUND);
 }
 
-std::wstring Demander_texte(const std::wstring & invite, const std::wstring & titre, const std::wstring & defaut) {
+std::wstring Demander_texte(const std::wstring & invite, const std::wstring & titre,
+                            const std::wstring & defaut) {
     Fenetre * proprietaire = Devant();
     if (proprietaire == nullptr) return {};
     const double hauteur = proprietaire->Hauteur_texte(invite, largeur_saisie - 2 * marge);
     Saisie       saisie(invite, titre, std::max(390, static_cast<int>(hauteur) + 30));
-    saisie.Move(proprietaire->Left() + (proprietaire->Width() - saisie.Width()) / 2, proprietaire->Top() + 1900);
+    saisie.Move(proprietaire->Left() + (proprietaire->Width() - saisie.Width()) / 2,
+                proprietaire->Top() + 1900);
     saisie.Texte.Text(defaut);
     saisie.Texte.Selectionner(0, -1);
     saisie.Texte.SetFocus();

@@ -34,14 +34,14 @@ COLORREF Rouge_vert_bleu(Couleur couleur) {
 }
 
 Controle::Controle(Fenetre & fenetre, const Place & place, const Genre & genre)
-    : fenetre_(fenetre), nom_(place.nom), aide_(place.aide), left_(place.left), top_(place.top), width_(place.width),
-      height_(place.height), fond_(couleur_face), encre_(couleur_texte_bouton) {
+    : fenetre_(fenetre), nom_(place.nom), aide_(place.aide), left_(place.left), top_(place.top),
+      width_(place.width), height_(place.height), fond_(couleur_face), encre_(couleur_texte_bouton) {
     const unsigned id     = fenetre.Ajouter(*this);
     const SIZE     taille = Taille(left_, top_, width_, height_);
     const DWORD    style  = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | genre.style |
                         (genre.tabulation ? static_cast<DWORD>(WS_TABSTOP) : 0U);
-    poignee_ = CreateWindowExW(genre.style_etendu, genre.classe, place.caption, style, Pixels(left_), Pixels(top_),
-                               taille.cx, taille.cy, fenetre.Poignee(),
+    poignee_ = CreateWindowExW(genre.style_etendu, genre.classe, place.caption, style, Pixels(left_),
+                               Pixels(top_), taille.cx, taille.cy, fenetre.Poignee(),
                                reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), Module(), nullptr);
     Nommer(poignee_, nom_);
     SendMessageW(poignee_, WM_SETFONT, reinterpret_cast<WPARAM>(fenetre.police_), FALSE);
@@ -61,12 +61,11 @@ Controle::~Controle() {
 void Controle::Placer(int left, int top, int width, int height) {
     left_ = left, top_ = top, width_ = width, height_ = height;
     const SIZE taille = Taille(left, top, width, height);
-    SetWindowPos(poignee_, nullptr, Pixels(left), Pixels(top), taille.cx, taille.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(poignee_, nullptr, Pixels(left), Pixels(top), taille.cx, taille.cy,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-bool Controle::Visible() const {
-    return (GetWindowLongPtrW(poignee_, GWL_STYLE) & WS_VISIBLE) != 0;
-}
+bool Controle::Visible() const { return (GetWindowLongPtrW(poignee_, GWL_STYLE) & WS_VISIBLE) != 0; }
 
 void Controle::Visible(bool visible) {
     if (visible == Visible()) return;
@@ -91,13 +90,9 @@ void Controle::SetFocus() {
     if (GetActiveWindow() == fenetre_.Poignee()) ::SetFocus(poignee_);
 }
 
-void Controle::Reprendre_focus() {
-    ::SetFocus(poignee_);
-}
+void Controle::Reprendre_focus() { ::SetFocus(poignee_); }
 
-void Controle::Focus_pris() {
-    fenetre_.actif_ = this;
-}
+void Controle::Focus_pris() { fenetre_.actif_ = this; }
 
 bool Controle::A_le_focus() const {
     const HWND focus = GetFocus();
@@ -116,13 +111,9 @@ void Controle::ForeColor(Couleur couleur) {
     Controle::Refresh();
 }
 
-void Controle::Refresh() {
-    InvalidateRect(poignee_, nullptr, TRUE);
-}
+void Controle::Refresh() { InvalidateRect(poignee_, nullptr, TRUE); }
 
-bool Controle::Message(unsigned, std::uintptr_t, std::intptr_t, std::intptr_t &) {
-    return false;
-}
+bool Controle::Message(unsigned, std::uintptr_t, std::intptr_t, std::intptr_t &) { return false; }
 
 void Controle::Apres_message(unsigned, std::uintptr_t, std::intptr_t) {}
 
@@ -130,23 +121,21 @@ std::intptr_t Controle::Envoyer(unsigned message, std::uintptr_t mot, std::intpt
     return SendMessageW(poignee_, message, mot, large);
 }
 
-void * Controle::Police_grasse() const {
-    return fenetre_.police_grasse_;
-}
+void * Controle::Police_grasse() const { return fenetre_.police_grasse_; }
 
 std::wstring Controle::Texte_fenetre() const {
     std::wstring texte(static_cast<std::size_t>(GetWindowTextLengthW(poignee_)) + 1, L'\0');
-    texte.resize(static_cast<std::size_t>(GetWindowTextW(poignee_, texte.data(), static_cast<int>(texte.size()))));
+    texte.resize(
+        static_cast<std::size_t>(GetWindowTextW(poignee_, texte.data(), static_cast<int>(texte.size()))));
     return texte;
 }
 
-void Controle::Texte_fenetre(const std::wstring & texte) {
-    SetWindowTextW(poignee_, texte.c_str());
-}
+void Controle::Texte_fenetre(const std::wstring & texte) { SetWindowTextW(poignee_, texte.c_str()); }
 
 std::intptr_t __stdcall Controle::Procedure(Poignee_fenetre poignee, unsigned message, std::uintptr_t mot,
                                             std::intptr_t large) {
-    return reinterpret_cast<Controle *>(GetWindowLongPtrW(poignee, GWLP_USERDATA))->Recevoir(message, mot, large);
+    return reinterpret_cast<Controle *>(GetWindowLongPtrW(poignee, GWLP_USERDATA))
+        ->Recevoir(message, mot, large);
 }
 
 std::intptr_t Controle::Recevoir(unsigned message, std::uintptr_t mot, std::intptr_t large) {

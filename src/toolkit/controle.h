@@ -9,7 +9,7 @@ using Poignee_fenetre = HWND__ *;
 class Fenetre;
 
 // A colour 0x00BBGGRR, or 0x80000000 plus the index of a system colour.
-using Couleur = std::uint32_t;
+using Couleur                                  = std::uint32_t;
 inline constexpr Couleur couleur_fond_fenetre  = 0x80000005;
 inline constexpr Couleur couleur_texte_fenetre = 0x80000008;
 inline constexpr Couleur couleur_face          = 0x8000000F;
@@ -51,24 +51,24 @@ public:
     int  Height() const { return height_; }
     void Placer(int left, int top, int width, int height);
 
-    bool Visible() const;  // as set, whatever its window's state
-    void Visible(bool visible);
-    bool Enabled() const { return actif_; }
+    bool         Visible() const;  // as set, whatever its window's state
+    void         Visible(bool visible);
+    bool         Enabled() const { return actif_; }
     virtual void Enabled(bool actif);
-    void SetFocus();
-    bool A_le_focus() const;
-    void BackColor(Couleur couleur);
-    void ForeColor(Couleur couleur);
-    Couleur BackColor() const { return fond_; }
-    Couleur ForeColor() const { return encre_; }
+    void         SetFocus();
+    bool         A_le_focus() const;
+    void         BackColor(Couleur couleur);
+    void         ForeColor(Couleur couleur);
+    Couleur      BackColor() const { return fond_; }
+    Couleur      ForeColor() const { return encre_; }
     virtual void Refresh();
 
-    std::function<void()>             GotFocus;
-    std::function<void()>             LostFocus;
-    std::function<void(int &, int)>   KeyDown;    // key code, 0 consumes; shift state: 1 shift, 2 control, 4 alt
-    std::function<void(wchar_t &)>    KeyPress;   // character, 0 consumes
-    std::function<void(bool &)>       MouseDown;  // true: the control does not see the click
-    std::function<void()>             MouseMove;
+    std::function<void()>           GotFocus;
+    std::function<void()>           LostFocus;
+    std::function<void(int &, int)> KeyDown;   // key code, 0 consumes; shift state: 1 shift, 2 control, 4 alt
+    std::function<void(wchar_t &)>  KeyPress;  // character, 0 consumes
+    std::function<void(bool &)>     MouseDown;  // true: the control does not see the click
+    std::function<void()>           MouseMove;
 
 protected:
     struct Genre {
@@ -92,8 +92,8 @@ protected:
     virtual void Dessiner(const void * dessin) { (void)dessin; }
     // Enter and Escape that the control treats itself; false passes them to the default or cancel button.
     virtual bool Prendre_entree() { return static_cast<bool>(KeyPress); }
-    virtual bool Enfoncer() { return false; }           // pressed by Enter; false: nothing to press
-    virtual bool Acces() { return Enfoncer(); }         // reached by its access key; false: it has none
+    virtual bool Enfoncer() { return false; }    // pressed by Enter; false: nothing to press
+    virtual bool Acces() { return Enfoncer(); }  // reached by its access key; false: it has none
     // A key that the control treats before anything else (arrows of a closed drop-down list).
     virtual bool Prendre_touche(int touche) {
         (void)touche;
@@ -102,9 +102,9 @@ protected:
     // The focus again after a box or another window: what was marked in the control stays as it was.
     virtual void Reprendre_focus();
     void         Focus_pris();  // this is the control that has the focus in its window from now on
-    virtual bool Deroule() const { return false; }   // a drop-down list is open: Enter and Escape are its own
+    virtual bool Deroule() const { return false; }  // a drop-down list is open: Enter and Escape are its own
     virtual bool Veut_fleches() const { return false; }  // arrows walk through a group of options
-    virtual void Peripherique_change() {}            // a device arrived or left
+    virtual void Peripherique_change() {}                // a device arrived or left
 
     std::intptr_t Envoyer(unsigned message, std::uintptr_t mot = 0, std::intptr_t large = 0) const;
     void *        Police_grasse() const;
@@ -122,8 +122,8 @@ private:
     // The system's own treatment of the window class. Replaced directly: the common controls' subclassing looks a window property
     // up twice for each message, which costs more than adding an entry to a list.
     std::intptr_t(__stdcall * d_origine_)(Poignee_fenetre, unsigned, std::uintptr_t, std::intptr_t) = nullptr;
-    int             left_, top_, width_, height_;
-    bool            actif_ = true;
-    Couleur         fond_;
-    Couleur         encre_;
+    int     left_, top_, width_, height_;
+    bool    actif_ = true;
+    Couleur fond_;
+    Couleur encre_;
 };

@@ -23,7 +23,8 @@ DWORD Style_etiquette(Alignement alignement, bool plusieurs_lignes) {
 }
 }  // namespace
 
-Etiquette::Etiquette(Fenetre & fenetre, const Place & place, Alignement alignement, bool grasse, bool plusieurs_lignes)
+Etiquette::Etiquette(Fenetre & fenetre, const Place & place, Alignement alignement, bool grasse,
+                     bool plusieurs_lignes)
     : Controle(fenetre, place, {WC_STATICW, Style_etiquette(alignement, plusieurs_lignes), 0, false}),
       caption_(place.caption) {
     if (grasse) Envoyer(WM_SETFONT, reinterpret_cast<WPARAM>(Police_grasse()), TRUE);
@@ -93,9 +94,7 @@ void Champ_texte::Selectionner(int debut, int longueur) {
     Envoyer(EM_SETSEL, static_cast<WPARAM>(debut), longueur < 0 ? -1 : static_cast<LPARAM>(debut) + longueur);
 }
 
-void Champ_texte::Limite(int caracteres) {
-    Envoyer(EM_SETLIMITTEXT, static_cast<WPARAM>(caracteres));
-}
+void Champ_texte::Limite(int caracteres) { Envoyer(EM_SETLIMITTEXT, static_cast<WPARAM>(caracteres)); }
 
 void Champ_texte::Notification(unsigned code) {
     if (code == EN_CHANGE && !assigne_ && Change) Change();
@@ -106,9 +105,7 @@ void Champ_texte::Notification(unsigned code) {
 Case_a_cocher::Case_a_cocher(Fenetre & fenetre, const Place & place)
     : Controle(fenetre, place, {WC_BUTTONW, BS_AUTOCHECKBOX, 0, true}) {}
 
-bool Case_a_cocher::Value() const {
-    return Envoyer(BM_GETCHECK) == BST_CHECKED;
-}
+bool Case_a_cocher::Value() const { return Envoyer(BM_GETCHECK) == BST_CHECKED; }
 
 void Case_a_cocher::Value(bool coche) {
     if (coche == Value()) return;
@@ -127,17 +124,18 @@ bool Case_a_cocher::Acces() {
 }
 
 Bouton_option::Bouton_option(Fenetre & fenetre, const Place & place, bool premiere)
-    : Controle(fenetre, place,
-               {WC_BUTTONW, BS_AUTORADIOBUTTON | (premiere ? static_cast<DWORD>(WS_GROUP) : 0U), 0, premiere}) {}
+    : Controle(
+          fenetre, place,
+          {WC_BUTTONW, BS_AUTORADIOBUTTON | (premiere ? static_cast<DWORD>(WS_GROUP) : 0U), 0, premiere}) {}
 
-bool Bouton_option::Value() const {
-    return Envoyer(BM_GETCHECK) == BST_CHECKED;
-}
+bool Bouton_option::Value() const { return Envoyer(BM_GETCHECK) == BST_CHECKED; }
 
 void Bouton_option::Value(bool choisi) {
     if (choisi == Value()) return;
-    if (choisi) Envoyer(BM_CLICK);  // unchecks the others of its group
-    else Envoyer(BM_SETCHECK, BST_UNCHECKED);
+    if (choisi)
+        Envoyer(BM_CLICK);  // unchecks the others of its group
+    else
+        Envoyer(BM_SETCHECK, BST_UNCHECKED);
 }
 
 void Bouton_option::Notification(unsigned code) {
@@ -177,10 +175,12 @@ Ligne::Ligne(Fenetre & fenetre, const Place & place)
     : Controle(fenetre, place, {WC_STATICW, SS_LEFT | SS_NOPREFIX, 0, false}) {}
 
 void Ligne::BorderWidth(int epaisseur) {
-    epaisseur_ = epaisseur;
+    epaisseur_      = epaisseur;
     const int twips = epaisseur * 15;
-    if (Width() >= Height()) Placer(Left(), Top(), Width(), twips);
-    else Placer(Left(), Top(), twips, Height());
+    if (Width() >= Height())
+        Placer(Left(), Top(), Width(), twips);
+    else
+        Placer(Left(), Top(), twips, Height());
 }
 
 // --- picture
@@ -199,8 +199,10 @@ void Image::Picture(Icone icone) {
         }
     }();
     HICON dessin = nullptr;
-    if (icone == Icone::programme) dessin = LoadIconW(Module(), MAKEINTRESOURCEW(1));
-    else if (systeme != nullptr) dessin = LoadIconW(nullptr, systeme);
+    if (icone == Icone::programme)
+        dessin = LoadIconW(Module(), MAKEINTRESOURCEW(1));
+    else if (systeme != nullptr)
+        dessin = LoadIconW(nullptr, systeme);
     Envoyer(STM_SETICON, reinterpret_cast<WPARAM>(dessin));
 }
 
@@ -213,7 +215,7 @@ Jauge_progression::Jauge_progression(Fenetre & fenetre, const Place & place)
 }
 
 void Jauge_progression::Value(double pour_cent) {
-    const double borne  = std::clamp(pour_cent, 0.0, 100.0);
+    const double borne   = std::clamp(pour_cent, 0.0, 100.0);
     const int    largeur = Pixels(Width());
     // Redrawn when a pixel changes, not at each of the thousands of blocks.
     const bool change = static_cast<int>(borne * largeur / 100) != static_cast<int>(valeur_ * largeur / 100);
@@ -229,17 +231,17 @@ void Jauge_progression::Caption(const std::wstring & texte) {
 }
 
 void Jauge_progression::Dessiner(const void * dessin) {
-    const auto & demande = *static_cast<const DRAWITEMSTRUCT *>(dessin);
-    HDC          hdc     = demande.hDC;
-    const RECT   place   = demande.rcItem;
-    const LONG   limite  = place.left + static_cast<LONG>(valeur_ * (place.right - place.left) / 100);
-    const RECT   faite{place.left, place.top, limite, place.bottom};
-    const RECT   reste{limite, place.top, place.right, place.bottom};
+    const auto &  demande = *static_cast<const DRAWITEMSTRUCT *>(dessin);
+    HDC           hdc     = demande.hDC;
+    const RECT    place   = demande.rcItem;
+    const LONG    limite  = place.left + static_cast<LONG>(valeur_ * (place.right - place.left) / 100);
+    const RECT    faite{place.left, place.top, limite, place.bottom};
+    const RECT    reste{limite, place.top, place.right, place.bottom};
     const HGDIOBJ avant = SelectObject(hdc, reinterpret_cast<HGDIOBJ>(Envoyer(WM_GETFONT)));
     SIZE          taille{};
     GetTextExtentPoint32W(hdc, caption_.c_str(), static_cast<int>(caption_.size()), &taille);
-    const int x = (place.left + place.right - taille.cx) / 2;
-    const int y = (place.top + place.bottom - taille.cy) / 2;
+    const int  x      = (place.left + place.right - taille.cx) / 2;
+    const int  y      = (place.top + place.bottom - taille.cy) / 2;
     const auto partie = [&](const RECT & zone, Couleur fond, Couleur encre) {
         SetBkColor(hdc, Rouge_vert_bleu(fond));
         SetTextColor(hdc, Rouge_vert_bleu(encre));

@@ -8,10 +8,10 @@ enum class Alignement { gauche, centre, droite };
 // A text; "&" is shown as it stands. A text too long for it ends with "...".
 class Etiquette : public Controle {
 public:
-    Etiquette(Fenetre & fenetre, const Place & place, Alignement alignement = Alignement::gauche, bool grasse = false,
-              bool plusieurs_lignes = false);
-    const std::wstring & Caption() const { return caption_; }
-    void                 Caption(const std::wstring & texte);  // redrawn only when it differs
+    Etiquette(Fenetre & fenetre, const Place & place, Alignement alignement = Alignement::gauche,
+              bool grasse = false, bool plusieurs_lignes = false);
+    const std::wstring &  Caption() const { return caption_; }
+    void                  Caption(const std::wstring & texte);  // redrawn only when it differs
     std::function<void()> Click;
 
 protected:
@@ -30,7 +30,7 @@ public:
     void         Enabled(bool actif) override;
     bool         Enabled() const { return Controle::Enabled(); }
     void         Brancher(std::function<void()> click);  // binds Click; the button becomes usable
-    void         Cliquer();  // what a user's click does, when visible and enabled
+    void         Cliquer();                              // what a user's click does, when visible and enabled
 
 protected:
     void Notification(unsigned code) override;
@@ -62,8 +62,8 @@ private:
 class Case_a_cocher : public Controle {
 public:
     Case_a_cocher(Fenetre & fenetre, const Place & place);
-    bool Value() const;
-    void Value(bool coche);  // raises Click when it differs
+    bool                  Value() const;
+    void                  Value(bool coche);  // raises Click when it differs
     std::function<void()> Click;
 
 protected:
@@ -75,8 +75,8 @@ protected:
 class Bouton_option : public Controle {
 public:
     Bouton_option(Fenetre & fenetre, const Place & place, bool premiere = false);
-    bool Value() const;
-    void Value(bool choisi);
+    bool                  Value() const;
+    void                  Value(bool choisi);
     std::function<void()> Click;
 
 protected:
@@ -112,7 +112,14 @@ private:
 // A picture: an icon of the program or of the system.
 class Image : public Controle {
 public:
-    enum class Icone { aucune = 0, arret = 16, question = 32, exclamation = 48, information = 64, programme = 1 };
+    enum class Icone {
+        aucune      = 0,
+        arret       = 16,
+        question    = 32,
+        exclamation = 48,
+        information = 64,
+        programme   = 1
+    };
     Image(Fenetre & fenetre, const Place & place);
     void Picture(Icone icone);
 };
@@ -121,10 +128,10 @@ public:
 class Jauge_progression : public Controle {
 public:
     Jauge_progression(Fenetre & fenetre, const Place & place);
-    double       Value() const { return valeur_; }
-    void         Value(double pour_cent);  // 0 to 100
+    double               Value() const { return valeur_; }
+    void                 Value(double pour_cent);  // 0 to 100
     const std::wstring & Caption() const { return caption_; }
-    void         Caption(const std::wstring & texte);
+    void                 Caption(const std::wstring & texte);
 
 protected:
     void Dessiner(const void * dessin) override;
@@ -137,9 +144,9 @@ private:
 class Barre_defilement : public Controle {
 public:
     Barre_defilement(Fenetre & fenetre, const Place & place);
-    void Bornes(int minimum, int maximum);
-    int  Value() const { return valeur_; }
-    void Value(int valeur);  // raises Change when it differs
+    void                  Bornes(int minimum, int maximum);
+    int                   Value() const { return valeur_; }
+    void                  Value(int valeur);  // raises Change when it differs
     std::function<void()> Change;
     std::function<void()> Scroll;
 

@@ -22,7 +22,8 @@ Style Style_de(Bordure bordure) {
     switch (bordure) {
     case Bordure::principale: return {WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
     case Bordure::dialogue:
-        return {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN, WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT};
+        return {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
+                WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT};
     case Bordure::banniere: return {WS_POPUP | WS_DLGFRAME | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT};
     }
     return {};
@@ -59,7 +60,7 @@ struct Rappels_fenetre {
     static LRESULT CALLBACK Procedure(HWND poignee, UINT message, WPARAM mot, LPARAM large) {
         if (message == WM_GETMINMAXINFO) {
             // A layout keeps its size on a screen smaller than it, where the system would cut the window down.
-            constexpr LONG sans_limite = 32767;
+            constexpr LONG sans_limite                            = 32767;
             reinterpret_cast<MINMAXINFO *>(large)->ptMaxTrackSize = {sans_limite, sans_limite};
             return 0;
         }
@@ -92,12 +93,14 @@ Fenetre * Fenetre_de_poignee(HWND poignee) {
     return nullptr;
 }
 
-Fenetre::Fenetre(const wchar_t * nom, const wchar_t * caption, int width, int height, Bordure bordure) : nom_(nom) {
+Fenetre::Fenetre(const wchar_t * nom, const wchar_t * caption, int width, int height, Bordure bordure)
+    : nom_(nom) {
     const Style style = Style_de(bordure);
     RECT        cadre{0, 0, Pixels(width), Pixels(height)};
     AdjustWindowRectEx(&cadre, style.normal, FALSE, style.etendu);
     poignee_ = CreateWindowExW(style.etendu, Rappels_fenetre::Classe(), caption, style.normal, 0, 0,
-                               cadre.right - cadre.left, cadre.bottom - cadre.top, nullptr, nullptr, Module(), nullptr);
+                               cadre.right - cadre.left, cadre.bottom - cadre.top, nullptr, nullptr, Module(),
+                               nullptr);
     SetWindowLongPtrW(poignee_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     police_        = Police(false);
     police_grasse_ = Police(true);
@@ -125,8 +128,9 @@ void Fenetre::Retirer(Controle & controle) {
 }
 
 Controle * Fenetre::Controle_de(Poignee_fenetre poignee) const {
-    const auto trouve = std::find_if(controles_.begin(), controles_.end(),
-                                     [&](const Controle * c) { return c != nullptr && c->Poignee() == poignee; });
+    const auto trouve = std::find_if(controles_.begin(), controles_.end(), [&](const Controle * c) {
+        return c != nullptr && c->Poignee() == poignee;
+    });
     return trouve == controles_.end() ? nullptr : *trouve;
 }
 
@@ -138,21 +142,16 @@ Controle * Fenetre::Trouver(std::wstring_view nom) const {
 
 std::wstring Fenetre::Caption() const {
     std::wstring texte(static_cast<std::size_t>(GetWindowTextLengthW(poignee_)) + 1, L'\0');
-    texte.resize(static_cast<std::size_t>(GetWindowTextW(poignee_, texte.data(), static_cast<int>(texte.size()))));
+    texte.resize(
+        static_cast<std::size_t>(GetWindowTextW(poignee_, texte.data(), static_cast<int>(texte.size()))));
     return texte;
 }
 
-void Fenetre::Caption(const std::wstring & texte) {
-    SetWindowTextW(poignee_, texte.c_str());
-}
+void Fenetre::Caption(const std::wstring & texte) { SetWindowTextW(poignee_, texte.c_str()); }
 
-int Fenetre::Left() const {
-    return Twips(Cadre_exterieur(*this).left);
-}
+int Fenetre::Left() const { return Twips(Cadre_exterieur(*this).left); }
 
-int Fenetre::Top() const {
-    return Twips(Cadre_exterieur(*this).top);
-}
+int Fenetre::Top() const { return Twips(Cadre_exterieur(*this).top); }
 
 int Fenetre::Width() const {
     const RECT cadre = Cadre_exterieur(*this);
@@ -171,7 +170,8 @@ void Fenetre::Move(int left, int top, int width, int height) {
 }
 
 void Fenetre::Move(int left, int top) {
-    SetWindowPos(poignee_, nullptr, Pixels(left), Pixels(top), 0, 0, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOSIZE);
+    SetWindowPos(poignee_, nullptr, Pixels(left), Pixels(top), 0, 0,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOSIZE);
 }
 
 Etat_fenetre Fenetre::WindowState() const {
@@ -212,17 +212,17 @@ void Fenetre::Hide() {
     modale_ = false;
 }
 
-bool Fenetre::Montree() const {
-    return montree_;
-}
+bool Fenetre::Montree() const { return montree_; }
 
 void Fenetre::Redessiner() {
     RedrawWindow(poignee_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void Fenetre::Pointeur_sablier(bool sablier) {
-    if (sablier) SetPropW(poignee_, L"sablier", reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(1)));
-    else RemovePropW(poignee_, L"sablier");
+    if (sablier)
+        SetPropW(poignee_, L"sablier", reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(1)));
+    else
+        RemovePropW(poignee_, L"sablier");
 }
 
 double Fenetre::Largeur_texte(std::wstring_view texte) const {
@@ -239,7 +239,8 @@ double Fenetre::Hauteur_texte(std::wstring_view texte, int largeur) const {
     HDC           dessin = GetDC(poignee_);
     const HGDIOBJ avant  = SelectObject(dessin, police_);
     RECT          place{0, 0, Pixels(largeur), 0};
-    DrawTextW(dessin, texte.data(), static_cast<int>(texte.size()), &place, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    DrawTextW(dessin, texte.data(), static_cast<int>(texte.size()), &place,
+              DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
     SelectObject(dessin, avant);
     ReleaseDC(poignee_, dessin);
     return place.bottom * 1440.0 / Resolution();
@@ -248,7 +249,8 @@ double Fenetre::Hauteur_texte(std::wstring_view texte, int largeur) const {
 bool Fenetre::Touche_acces(wchar_t lettre) {
     const auto cherchee = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(lettre)));
     for (Controle * controle : controles_) {
-        if (controle == nullptr || !controle->Visible() || IsWindowEnabled(controle->Poignee()) == FALSE) continue;
+        if (controle == nullptr || !controle->Visible() || IsWindowEnabled(controle->Poignee()) == FALSE)
+            continue;
         if (Lettre_acces(controle->Texte_fenetre()) != cherchee) continue;
         if (controle->Acces()) return true;
     }

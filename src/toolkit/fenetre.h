@@ -30,39 +30,40 @@ public:
     Poignee_fenetre      Poignee() const { return poignee_; }
     std::wstring         Caption() const;
     void                 Caption(const std::wstring & texte);
-    int  Left() const;
-    int  Top() const;
-    int  Width() const;
-    int  Height() const;
-    void Move(int left, int top, int width, int height);
-    void Move(int left, int top);
-    Etat_fenetre WindowState() const;
-    void         WindowState(Etat_fenetre etat);
+    int                  Left() const;
+    int                  Top() const;
+    int                  Width() const;
+    int                  Height() const;
+    void                 Move(int left, int top, int width, int height);
+    void                 Move(int left, int top);
+    Etat_fenetre         WindowState() const;
+    void                 WindowState(Etat_fenetre etat);
 
-    void Show();   // in its WindowState
-    void Hide();   // ends a modal showing
+    void Show();  // in its WindowState
+    void Hide();  // ends a modal showing
     bool Montree() const;
     // Shown in front of `proprietaire`, which is disabled, until hidden; the focus goes back to where it was.
     void Show_modal(Fenetre & proprietaire);
 
-    void Defaut(Bouton_commande & bouton) { defaut_ = &bouton; }
-    void Annulation(Bouton_commande & bouton) { annulation_ = &bouton; }
+    void       Defaut(Bouton_commande & bouton) { defaut_ = &bouton; }
+    void       Annulation(Bouton_commande & bouton) { annulation_ = &bouton; }
     Controle * Controle_actif() const { return actif_; }
     double     Largeur_texte(std::wstring_view texte) const;  // twips, in the window's font
-    double     Hauteur_texte(std::wstring_view texte, int largeur) const;  // twips, words wrapped at `largeur` twips
+    double     Hauteur_texte(std::wstring_view texte,
+                             int               largeur) const;  // twips, words wrapped at `largeur` twips
     void       Redessiner();
     Controle * Trouver(std::wstring_view nom) const;
     Controle * Controle_de(Poignee_fenetre poignee) const;
     // Publishes the window property "sablier" and shows the pointer at once.
-    void       Pointeur_sablier(bool sablier);
+    void Pointeur_sablier(bool sablier);
 
-    std::function<void()>                 Resize;
+    std::function<void()>                  Resize;
     std::function<void(bool &, Fermeture)> QueryUnload;  // true refuses
-    std::function<void(int &, int)>       KeyDown;      // before the controls; 0 consumes
-    std::function<void(Controle *)>       MouseMove;    // over a control, or over the window itself (null)
-    std::function<void()>                 Activate;
-    std::function<void()>                 Paint;
-    std::function<void()>                 Unites_changees;  // a device arrived or left
+    std::function<void(int &, int)>        KeyDown;      // before the controls; 0 consumes
+    std::function<void(Controle *)>        MouseMove;    // over a control, or over the window itself (null)
+    std::function<void()>                  Activate;
+    std::function<void()>                  Paint;
+    std::function<void()>                  Unites_changees;  // a device arrived or left
 
 private:
     friend class Controle;
@@ -84,15 +85,15 @@ private:
     void          Premier_focus();
 
     std::wstring            nom_;
-    Poignee_fenetre         poignee_ = nullptr;
+    Poignee_fenetre         poignee_       = nullptr;
     void *                  police_        = nullptr;
     void *                  police_grasse_ = nullptr;
     std::vector<Controle *> controles_;
-    Controle *              actif_      = nullptr;
-    Bouton_commande *       defaut_     = nullptr;
-    Bouton_commande *       annulation_ = nullptr;
-    Etat_fenetre            etat_voulu_ = Etat_fenetre::normale;
-    bool                    modale_     = false;
-    bool                    montree_    = false;
+    Controle *              actif_        = nullptr;
+    Bouton_commande *       defaut_       = nullptr;
+    Bouton_commande *       annulation_   = nullptr;
+    Etat_fenetre            etat_voulu_   = Etat_fenetre::normale;
+    bool                    modale_       = false;
+    bool                    montree_      = false;
     Fenetre *               proprietaire_ = nullptr;
 };

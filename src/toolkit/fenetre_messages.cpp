@@ -35,8 +35,10 @@ std::intptr_t Fenetre::Colorer(void * dessin, Poignee_fenetre poignee) {
 
 void Fenetre::Activer(bool active) {
     if (!active) return;
-    if (Utilisable(actif_)) actif_->Reprendre_focus();
-    else Premier_focus();
+    if (Utilisable(actif_))
+        actif_->Reprendre_focus();
+    else
+        Premier_focus();
     if (Activate) Activate();
 }
 
@@ -89,7 +91,8 @@ std::intptr_t Fenetre::Traiter(unsigned message, std::uintptr_t mot, std::intptr
     case WM_CTLCOLORLISTBOX:
     case WM_CTLCOLOREDIT:
     case WM_CTLCOLORBTN:
-        if (const std::intptr_t pinceau = Colorer(reinterpret_cast<void *>(mot), reinterpret_cast<HWND>(large));
+        if (const std::intptr_t pinceau =
+                Colorer(reinterpret_cast<void *>(mot), reinterpret_cast<HWND>(large));
             pinceau != 0) {
             return pinceau;
         }
@@ -110,12 +113,12 @@ std::intptr_t Fenetre::Traiter(unsigned message, std::uintptr_t mot, std::intptr
     case WM_PAINT:
         if (Paint) Paint();
         break;
-    case WM_ACTIVATE:
-        Activer(LOWORD(mot) != WA_INACTIVE && HIWORD(mot) == 0);
-        return 0;
+    case WM_ACTIVATE: Activer(LOWORD(mot) != WA_INACTIVE && HIWORD(mot) == 0); return 0;
     case WM_SETFOCUS:
-        if (Utilisable(actif_)) actif_->Reprendre_focus();
-        else Premier_focus();
+        if (Utilisable(actif_))
+            actif_->Reprendre_focus();
+        else
+            Premier_focus();
         return 0;
     case WM_MOUSEMOVE: Survoler(); break;
     case WM_SETCURSOR:

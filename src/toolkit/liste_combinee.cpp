@@ -20,7 +20,8 @@ LRESULT CALLBACK Procedure_champ(HWND champ, UINT message, WPARAM mot, LPARAM la
 Liste_combinee::Liste_combinee(Fenetre & fenetre, const Place & place, bool editable)
     : Controle(fenetre, place,
                {WC_COMBOBOXW,
-                WS_VSCROLL | CBS_AUTOHSCROLL | (editable ? static_cast<DWORD>(CBS_DROPDOWN) : static_cast<DWORD>(CBS_DROPDOWNLIST)),
+                WS_VSCROLL | CBS_AUTOHSCROLL |
+                    (editable ? static_cast<DWORD>(CBS_DROPDOWN) : static_cast<DWORD>(CBS_DROPDOWNLIST)),
                 0, true}),
       editable_(editable) {
     BackColor(couleur_fond_fenetre);
@@ -28,15 +29,13 @@ Liste_combinee::Liste_combinee(Fenetre & fenetre, const Place & place, bool edit
     // The frame around the text takes six pixels of the height that the layout gives.
     Envoyer(CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), Pixels(Height()) - 6);
     const auto rangee = static_cast<int>(Envoyer(CB_GETITEMHEIGHT));
-    SetWindowPos(Poignee(), nullptr, 0, 0, Pixels(Left() + Width()) - Pixels(Left()), Pixels(Height()) + rangee * rangees + 2,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(Poignee(), nullptr, 0, 0, Pixels(Left() + Width()) - Pixels(Left()),
+                 Pixels(Height()) + rangee * rangees + 2, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     Envoyer(CB_LIMITTEXT, 32767);
     if (editable_) SetWindowSubclass(GetWindow(Poignee(), GW_CHILD), Procedure_champ, 1, 0);
 }
 
-std::wstring Liste_combinee::Text() const {
-    return Texte_fenetre();
-}
+std::wstring Liste_combinee::Text() const { return Texte_fenetre(); }
 
 void Liste_combinee::Text(const std::wstring & texte) {
     if (texte == texte_ && texte == Texte_fenetre()) return;
@@ -45,9 +44,7 @@ void Liste_combinee::Text(const std::wstring & texte) {
     if (Change) Change();
 }
 
-int Liste_combinee::ListCount() const {
-    return static_cast<int>(Envoyer(CB_GETCOUNT));
-}
+int Liste_combinee::ListCount() const { return static_cast<int>(Envoyer(CB_GETCOUNT)); }
 
 std::wstring Liste_combinee::List(int index) const {
     const std::intptr_t longueur = Envoyer(CB_GETLBTEXTLEN, static_cast<WPARAM>(index));
@@ -58,9 +55,7 @@ std::wstring Liste_combinee::List(int index) const {
     return texte;
 }
 
-int Liste_combinee::ListIndex() const {
-    return static_cast<int>(Envoyer(CB_GETCURSEL));
-}
+int Liste_combinee::ListIndex() const { return static_cast<int>(Envoyer(CB_GETCURSEL)); }
 
 void Liste_combinee::ListIndex(int index) {
     if (index == ListIndex()) return;
@@ -77,18 +72,14 @@ void Liste_combinee::AddItem(const std::wstring & texte) {
     Envoyer(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(texte.c_str()));
 }
 
-void Liste_combinee::RemoveItem(int index) {
-    Envoyer(CB_DELETESTRING, static_cast<WPARAM>(index));
-}
+void Liste_combinee::RemoveItem(int index) { Envoyer(CB_DELETESTRING, static_cast<WPARAM>(index)); }
 
 void Liste_combinee::Clear() {
     Envoyer(CB_RESETCONTENT);
     dernier_ = -1;
 }
 
-bool Liste_combinee::Deroule() const {
-    return Envoyer(CB_GETDROPPEDSTATE) != 0;
-}
+bool Liste_combinee::Deroule() const { return Envoyer(CB_GETDROPPEDSTATE) != 0; }
 
 void Liste_combinee::Caret_a_la_fin() {
     const auto fin = static_cast<WORD>(Texte_fenetre().size());

@@ -36,14 +36,16 @@ void Trier(std::vector<Entree_repertoire> & entrees) {
 }
 
 bool Memes_noms(const std::vector<Entree_repertoire> & a, const std::vector<Entree_repertoire> & b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const Entree_repertoire & x, const Entree_repertoire & y) { return x.nom == y.nom; });
+    return std::equal(
+        a.begin(), a.end(), b.begin(), b.end(),
+        [](const Entree_repertoire & x, const Entree_repertoire & y) { return x.nom == y.nom; });
 }
 }  // namespace
 
 Liste_fichiers::Liste_fichiers(Fenetre & fenetre, const Place & place) : Liste(fenetre, place, true) {}
 
-std::vector<Entree_repertoire> Liste_fichiers::Filtrer(const std::wstring & chemin, const std::wstring & motif) const {
+std::vector<Entree_repertoire> Liste_fichiers::Filtrer(const std::wstring & chemin,
+                                                       const std::wstring & motif) const {
     if (!Motifs::Valide(motif)) throw Erreur_execution(Numero::valeur_incorrecte, 0, motif);
     std::vector<Entree_repertoire> entrees = Lister(chemin, false);
     const Motifs                   motifs(motif, Majuscule);
@@ -66,8 +68,8 @@ void Liste_fichiers::Montrer(std::vector<Entree_repertoire> entrees) {
 void Liste_fichiers::Relire(const std::wstring & chemin, const std::wstring & motif) {
     std::vector<Entree_repertoire> entrees = Filtrer(chemin, motif);
     const bool                     change  = Comparer_sans_casse(chemin, path_) != 0;
-    path_    = chemin;
-    pattern_ = motif;
+    path_                                  = chemin;
+    pattern_                               = motif;
     Montrer(std::move(entrees));
     if (change && PathChange) PathChange();
 }
@@ -78,9 +80,7 @@ void Liste_fichiers::Path(const std::wstring & chemin) {
     Relire(complet, pattern_);
 }
 
-void Liste_fichiers::Pattern(const std::wstring & motif) {
-    Relire(path_, motif);
-}
+void Liste_fichiers::Pattern(const std::wstring & motif) { Relire(path_, motif); }
 
 void Liste_fichiers::Hidden(bool montrer) {
     if (montrer == caches_) return;
@@ -104,8 +104,8 @@ void Liste_fichiers::Refresh() {
     std::vector<std::wstring> choisis;
     for (const int index : Selection()) choisis.push_back(entrees_[static_cast<std::size_t>(index)].nom);
     const int          courant = ListIndex();
-    const std::wstring nom     = courant >= 0 ? entrees_[static_cast<std::size_t>(courant)].nom : std::wstring();
-    const int          haut    = TopIndex();
+    const std::wstring nom  = courant >= 0 ? entrees_[static_cast<std::size_t>(courant)].nom : std::wstring();
+    const int          haut = TopIndex();
     Montrer(std::move(entrees));
     // Both are in the same order: one walk finds the names that are still there.
     std::size_t suivant = 0;
@@ -115,7 +115,8 @@ void Liste_fichiers::Refresh() {
             Envoyer(LB_SETCARETINDEX, ligne, FALSE);
             touche_ = true;
         }
-        while (suivant < choisis.size() && Comparer_sans_casse(choisis[suivant], entrees_[i].nom) < 0) ++suivant;
+        while (suivant < choisis.size() && Comparer_sans_casse(choisis[suivant], entrees_[i].nom) < 0)
+            ++suivant;
         if (suivant < choisis.size() && choisis[suivant] == entrees_[i].nom) {
             Envoyer(LB_SETSEL, TRUE, static_cast<LPARAM>(i));
             ++suivant;

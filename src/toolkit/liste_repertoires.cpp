@@ -28,9 +28,8 @@ std::wstring Resoudre(const std::wstring & texte) {
 std::vector<std::wstring> Sous_repertoires(const std::wstring & chemin) {
     std::vector<std::wstring> noms;
     for (Entree_repertoire & entree : Lister(chemin, true)) noms.push_back(std::move(entree.nom));
-    std::sort(noms.begin(), noms.end(), [](const std::wstring & a, const std::wstring & b) {
-        return Comparer_sans_casse(a, b) < 0;
-    });
+    std::sort(noms.begin(), noms.end(),
+              [](const std::wstring & a, const std::wstring & b) { return Comparer_sans_casse(a, b) < 0; });
     return noms;
 }
 
@@ -45,7 +44,8 @@ std::vector<std::wstring> Chaine(const std::wstring & chemin) {
     if (racine == std::wstring::npos || racine + 1 >= chemin.size()) return {chemin};
     const bool reseau = chemin.front() == L'\\';
     chaine.push_back(chemin.substr(0, reseau ? racine : racine + 1));
-    for (std::size_t fin = chemin.find(L'\\', racine + 1); fin != std::wstring::npos; fin = chemin.find(L'\\', fin + 1)) {
+    for (std::size_t fin = chemin.find(L'\\', racine + 1); fin != std::wstring::npos;
+         fin             = chemin.find(L'\\', fin + 1)) {
         chaine.push_back(chemin.substr(0, fin));
     }
     chaine.push_back(chemin);
@@ -57,7 +57,7 @@ void Dessiner_dossier(HDC hdc, int x, int y, int cote, bool ouvert) {
     const HGDIOBJ plume   = SelectObject(hdc, GetStockObject(DC_PEN));
     SetDCPenColor(hdc, RGB(0x80, 0x60, 0x10));
     SetDCBrushColor(hdc, RGB(0xF5, 0xC8, 0x48));
-    const auto p = [&](int a, int b) { return POINT{x + a * cote / 12, y + b * cote / 12}; };
+    const auto  p       = [&](int a, int b) { return POINT{x + a * cote / 12, y + b * cote / 12}; };
     const POINT corps[] = {p(0, 3), p(1, 2), p(4, 2), p(5, 3), p(11, 3), p(11, 10), p(0, 10)};
     Polygon(hdc, corps, 7);
     if (ouvert) {
@@ -70,15 +70,16 @@ void Dessiner_dossier(HDC hdc, int x, int y, int cote, bool ouvert) {
 }
 }  // namespace
 
-Liste_repertoires::Liste_repertoires(Fenetre & fenetre, const Place & place) : Liste(fenetre, place, false, true) {}
+Liste_repertoires::Liste_repertoires(Fenetre & fenetre, const Place & place)
+    : Liste(fenetre, place, false, true) {}
 
 void Liste_repertoires::Path(const std::wstring & chemin) {
     const std::wstring complet = Sans_barre_finale(Resoudre(chemin));
     if (!path_.empty() && Comparer_sans_casse(complet, path_) == 0) return;
     std::vector<std::wstring> noms = Sous_repertoires(complet);
-    path_             = Nom_sur_disque(complet);
-    chaine_           = Chaine(path_);
-    sous_repertoires_ = std::move(noms);
+    path_                          = Nom_sur_disque(complet);
+    chaine_                        = Chaine(path_);
+    sous_repertoires_              = std::move(noms);
     Montrer(-1);
     if (Change) Change();
 }
@@ -87,12 +88,16 @@ void Liste_repertoires::Refresh() {
     if (path_.empty()) return;
     std::vector<std::wstring> noms = Sous_repertoires(path_);
     if (noms == sous_repertoires_) return;
-    const int          index  = ListIndex();
-    const std::wstring choisi = index >= 0 ? sous_repertoires_[static_cast<std::size_t>(index)] : std::wstring();
-    sous_repertoires_         = std::move(noms);
-    const auto trouve         = std::find(sous_repertoires_.begin(), sous_repertoires_.end(), choisi);
-    if (index < 0) Montrer(index);
-    else Montrer(trouve == sous_repertoires_.end() ? -1 : static_cast<int>(trouve - sous_repertoires_.begin()));
+    const int          index = ListIndex();
+    const std::wstring choisi =
+        index >= 0 ? sous_repertoires_[static_cast<std::size_t>(index)] : std::wstring();
+    sous_repertoires_ = std::move(noms);
+    const auto trouve = std::find(sous_repertoires_.begin(), sous_repertoires_.end(), choisi);
+    if (index < 0)
+        Montrer(index);
+    else
+        Montrer(trouve == sous_repertoires_.end() ? -1
+                                                  : static_cast<int>(trouve - sous_repertoires_.begin()));
 }
 
 void Liste_repertoires::Montrer(int index) {
@@ -121,9 +126,7 @@ void Liste_repertoires::ListIndex(int index) {
     Envoyer(LB_SETCURSEL, static_cast<WPARAM>(index) + chaine_.size());
 }
 
-int Liste_repertoires::ListCount() const {
-    return static_cast<int>(sous_repertoires_.size());
-}
+int Liste_repertoires::ListCount() const { return static_cast<int>(sous_repertoires_.size()); }
 
 std::wstring Liste_repertoires::List(int index) const {
     if (index >= 0) {

@@ -16,7 +16,8 @@ DWORD Style_liste(bool multiple, bool dessinee) {
 }
 }  // namespace
 
-Liste::Liste(Fenetre & fenetre, const Place & place, bool multiple) : Liste(fenetre, place, multiple, false) {}
+Liste::Liste(Fenetre & fenetre, const Place & place, bool multiple)
+    : Liste(fenetre, place, multiple, false) {}
 
 Liste::Liste(Fenetre & fenetre, const Place & place, bool multiple, bool dessinee)
     : Controle(fenetre, place, {WC_LISTBOXW, Style_liste(multiple, dessinee), WS_EX_CLIENTEDGE, true}),
@@ -25,9 +26,7 @@ Liste::Liste(Fenetre & fenetre, const Place & place, bool multiple, bool dessine
     ForeColor(couleur_texte_fenetre);
 }
 
-int Liste::ListCount() const {
-    return static_cast<int>(Envoyer(LB_GETCOUNT));
-}
+int Liste::ListCount() const { return static_cast<int>(Envoyer(LB_GETCOUNT)); }
 
 std::wstring Liste::List(int index) const {
     const std::intptr_t longueur = Envoyer(LB_GETTEXTLEN, static_cast<WPARAM>(index));
@@ -55,9 +54,7 @@ void Liste::ListIndex(int index) {
     if (Click) Click();
 }
 
-bool Liste::Selected(int index) const {
-    return Envoyer(LB_GETSEL, static_cast<WPARAM>(index)) > 0;
-}
+bool Liste::Selected(int index) const { return Envoyer(LB_GETSEL, static_cast<WPARAM>(index)) > 0; }
 
 void Liste::Selected(int index, bool choisi) {
     if (index < 0 || index >= ListCount() || Selected(index) == choisi) return;
@@ -82,25 +79,21 @@ std::vector<int> Liste::Selection() const {
 }
 
 void Liste::Tout_selectionner(bool choisi) {
-    if (multiple_) Envoyer(LB_SETSEL, choisi ? TRUE : FALSE, -1);
-    else if (!choisi) Envoyer(LB_SETCURSEL, static_cast<WPARAM>(-1));
+    if (multiple_)
+        Envoyer(LB_SETSEL, choisi ? TRUE : FALSE, -1);
+    else if (!choisi)
+        Envoyer(LB_SETCURSEL, static_cast<WPARAM>(-1));
 }
 
-int Liste::TopIndex() const {
-    return static_cast<int>(Envoyer(LB_GETTOPINDEX));
-}
+int Liste::TopIndex() const { return static_cast<int>(Envoyer(LB_GETTOPINDEX)); }
 
-void Liste::TopIndex(int index) {
-    Envoyer(LB_SETTOPINDEX, static_cast<WPARAM>(index));
-}
+void Liste::TopIndex(int index) { Envoyer(LB_SETTOPINDEX, static_cast<WPARAM>(index)); }
 
 void Liste::AddItem(const std::wstring & texte) {
     Envoyer(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(texte.c_str()));
 }
 
-void Liste::RemoveItem(int index) {
-    Envoyer(LB_DELETESTRING, static_cast<WPARAM>(index));
-}
+void Liste::RemoveItem(int index) { Envoyer(LB_DELETESTRING, static_cast<WPARAM>(index)); }
 
 void Liste::Clear() {
     touche_ = false;
@@ -132,7 +125,8 @@ int Liste::Entree_survolee(bool & coupee) const {
     const auto trouve = static_cast<DWORD>(Envoyer(LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y)));
     if (HIWORD(trouve) != 0) return -1;
     // The message holds 16 bits of an index: long lists are counted from their first visible entry.
-    const int ligne = TopIndex() + static_cast<int>((point.y - interieur.top) / std::max<std::intptr_t>(1, Envoyer(LB_GETITEMHEIGHT)));
+    const int ligne = TopIndex() + static_cast<int>((point.y - interieur.top) /
+                                                    std::max<std::intptr_t>(1, Envoyer(LB_GETITEMHEIGHT)));
     if (ligne >= static_cast<int>(Envoyer(LB_GETCOUNT))) return -1;
     HDC                dessin = GetDC(Poignee());
     const HGDIOBJ      avant  = SelectObject(dessin, reinterpret_cast<HGDIOBJ>(Envoyer(WM_GETFONT)));
@@ -176,7 +170,8 @@ bool Liste::Message(unsigned message, std::uintptr_t mot, std::intptr_t, std::in
 int Liste::Arrivee(int touche) const {
     RECT interieur{};
     GetClientRect(Poignee(), &interieur);
-    const int page    = static_cast<int>(interieur.bottom / std::max<std::intptr_t>(1, Envoyer(LB_GETITEMHEIGHT)));
+    const int page =
+        static_cast<int>(interieur.bottom / std::max<std::intptr_t>(1, Envoyer(LB_GETITEMHEIGHT)));
     const int courant = static_cast<int>(Envoyer(LB_GETCARETINDEX));
     const int dernier = ListCount() - 1;
     switch (touche) {
@@ -216,7 +211,8 @@ bool Liste::Prendre_ctrl(int touche) {
 // The next entry that begins with the letter is selected, alone; some systems' list boxes would add those on the way.
 void Liste::Aller_a_initiale(wchar_t lettre) {
     const wchar_t       debut[] = {lettre, L'\0'};
-    const std::intptr_t rang    = Envoyer(LB_FINDSTRING, static_cast<WPARAM>(ListIndex()), reinterpret_cast<LPARAM>(debut));
+    const std::intptr_t rang =
+        Envoyer(LB_FINDSTRING, static_cast<WPARAM>(ListIndex()), reinterpret_cast<LPARAM>(debut));
     if (rang == LB_ERR) return;
     Tout_selectionner(false);
     Envoyer(LB_SETSEL, TRUE, rang);

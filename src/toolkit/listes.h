@@ -8,22 +8,22 @@ class Liste : public Controle {
 public:
     Liste(Fenetre & fenetre, const Place & place, bool multiple);
 
-    int          ListCount() const;
-    std::wstring List(int index) const;
-    virtual int  ListIndex() const;     // entry with the focus, -1 when none
-    virtual void ListIndex(int index);  // raises Click when it changes
-    bool         Selected(int index) const;
-    void         Selected(int index, bool choisi);  // raises Click when the state changes
-    std::vector<int> Selection() const;             // indexes selected, ascending
-    void         Tout_selectionner(bool choisi);    // raises nothing
-    int          TopIndex() const;
-    void         TopIndex(int index);
-    void         AddItem(const std::wstring & texte);
-    void         RemoveItem(int index);
-    void         Clear();
-    bool         Souris() const { return souris_; }  // the event being handled comes from the mouse
+    int              ListCount() const;
+    std::wstring     List(int index) const;
+    virtual int      ListIndex() const;     // entry with the focus, -1 when none
+    virtual void     ListIndex(int index);  // raises Click when it changes
+    bool             Selected(int index) const;
+    void             Selected(int index, bool choisi);  // raises Click when the state changes
+    std::vector<int> Selection() const;                 // indexes selected, ascending
+    void             Tout_selectionner(bool choisi);    // raises nothing
+    int              TopIndex() const;
+    void             TopIndex(int index);
+    void             AddItem(const std::wstring & texte);
+    void             RemoveItem(int index);
+    void             Clear();
+    bool             Souris() const { return souris_; }  // the event being handled comes from the mouse
     // The entry under a point of the list and whether its text is wider than the list; -1 for none.
-    int          Entree_survolee(bool & coupee) const;
+    int Entree_survolee(bool & coupee) const;
 
     std::function<void()> Click;
     std::function<void()> DblClick;
@@ -32,10 +32,11 @@ public:
 protected:
     Liste(Fenetre & fenetre, const Place & place, bool multiple, bool dessinee);
     void Notification(unsigned code) override;
-    bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large, std::intptr_t & resultat) override;
+    bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large,
+                 std::intptr_t & resultat) override;
     void Apres_message(unsigned message, std::uintptr_t mot, std::intptr_t large) override;
     // Replaces the whole content at once; redrawn once.
-    void Remplir(const std::vector<const wchar_t *> & textes);
+    void        Remplir(const std::vector<const wchar_t *> & textes);
     virtual int Retrait(int ligne) const {  // pixels before an entry's text
         (void)ligne;
         return 0;
@@ -46,8 +47,8 @@ protected:
     void Aller_a_initiale(wchar_t lettre);
 
     bool multiple_;
-    bool touche_  = false;  // an entry has had the focus since the list was filled
-    bool souris_  = false;
+    bool touche_ = false;  // an entry has had the focus since the list was filled
+    bool souris_ = false;
 };
 
 // A combo box: drop-down list alone, or with an editable text.
@@ -70,13 +71,14 @@ public:
     std::function<void()> Click;
 
 protected:
-    void Notification(unsigned code) override;
-    bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large, std::intptr_t & resultat) override;
+    void         Notification(unsigned code) override;
+    bool         Message(unsigned message, std::uintptr_t mot, std::intptr_t large,
+                         std::intptr_t & resultat) override;
     virtual void Choix_fait();  // the user chose an entry
-    void Choisir_en_silence(int index);
-    bool Prendre_touche(int touche) override;
-    bool Deroule() const override;
-    void Reprendre_focus() override;
+    void         Choisir_en_silence(int index);
+    bool         Prendre_touche(int touche) override;
+    bool         Deroule() const override;
+    void         Reprendre_focus() override;
 
 private:
     void Oublier_choix();

@@ -37,11 +37,11 @@ public:
     const std::wstring & Path() const { return path_; }  // no final "\" but for a root
     // Errors 76, 68, 70, 71: path and content stay. Change only when the directory really changes.
     void Path(const std::wstring & chemin);
-    int          ListIndex() const override;     // -1: the open directory, -2 its parent ...; 0 and up: subdirectories
-    void         ListIndex(int index) override;  // moves the current entry, raises nothing
-    int          ListCount() const;              // subdirectories
-    std::wstring List(int index) const;          // full path
-    void         Refresh() override;             // reads the disk again; raises nothing, throws as Path does
+    int  ListIndex() const override;  // -1: the open directory, -2 its parent ...; 0 and up: subdirectories
+    void ListIndex(int index) override;  // moves the current entry, raises nothing
+    int  ListCount() const;              // subdirectories
+    std::wstring List(int index) const;  // full path
+    void         Refresh() override;     // reads the disk again; raises nothing, throws as Path does
 
     std::function<void()> Change;
 
@@ -50,7 +50,7 @@ protected:
     void Dessiner(const void * dessin) override;
     void Apres_message(unsigned message, std::uintptr_t mot, std::intptr_t large) override;
 
-    int  Retrait(int ligne) const override;
+    int Retrait(int ligne) const override;
 
 private:
     void        Montrer(int index);
@@ -59,7 +59,7 @@ private:
     bool pressee_ = false;  // the mouse button went down in this list
 
     std::wstring              path_;
-    std::vector<std::wstring> chaine_;         // root, ..., open directory
+    std::vector<std::wstring> chaine_;            // root, ..., open directory
     std::vector<std::wstring> sous_repertoires_;  // names
 };
 
@@ -69,14 +69,15 @@ public:
     Liste_fichiers(Fenetre & fenetre, const Place & place);
 
     const std::wstring & Path() const { return path_; }
-    void Path(const std::wstring & chemin);  // raises PathChange when it differs
+    void                 Path(const std::wstring & chemin);  // raises PathChange when it differs
     const std::wstring & Pattern() const { return pattern_; }
-    void Pattern(const std::wstring & motif);  // error 380 leaves the old one
-    bool Hidden() const { return caches_; }
-    void Hidden(bool montrer);
-    bool System() const { return systeme_; }
-    void System(bool montrer);
-    void Refresh() override;  // keeps path, selection of the names that still exist and the current entry; raises nothing
+    void                 Pattern(const std::wstring & motif);  // error 380 leaves the old one
+    bool                 Hidden() const { return caches_; }
+    void                 Hidden(bool montrer);
+    bool                 System() const { return systeme_; }
+    void                 System(bool montrer);
+    void                 Refresh()
+        override;  // keeps path, selection of the names that still exist and the current entry; raises nothing
     // Directory and pattern at once, one reading of the disk; raises PathChange when the path differs.
     void Relire(const std::wstring & chemin, const std::wstring & motif);
 
@@ -87,7 +88,7 @@ public:
 
 private:
     std::vector<Entree_repertoire> Filtrer(const std::wstring & chemin, const std::wstring & motif) const;
-    void Montrer(std::vector<Entree_repertoire> entrees);
+    void                           Montrer(std::vector<Entree_repertoire> entrees);
 
     std::wstring                   path_;
     std::wstring                   pattern_ = L"*.*";

@@ -12,10 +12,6 @@ int Resolution() {
     return points;
 }
 
-int Pixels(int twips) {
-    return MulDiv(twips, Resolution(), 1440);
-}
+int Pixels(int twips) { return MulDiv(twips, Resolution(), 1440); }
 
-int Twips(int pixels) {
-    return MulDiv(pixels, 1440, Resolution());
-}
+int Twips(int pixels) { return MulDiv(pixels, 1440, Resolution()); }

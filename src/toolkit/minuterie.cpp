@@ -19,7 +19,7 @@ void CALLBACK Echeance(HWND, UINT, UINT_PTR id, DWORD) {
 void Minuterie::Enabled(bool active) {
     if (active == (id_ != 0)) return;
     if (active) {
-        id_ = SetTimer(nullptr, 0, intervalle_, Echeance);
+        id_            = SetTimer(nullptr, 0, intervalle_, Echeance);
         Actives()[id_] = this;
     } else {
         KillTimer(nullptr, id_);

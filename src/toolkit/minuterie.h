@@ -10,8 +10,8 @@ public:
     Minuterie(const Minuterie &)             = delete;
     Minuterie & operator=(const Minuterie &) = delete;
 
-    void Interval(unsigned intervalle) { intervalle_ = intervalle; }
-    void Enabled(bool active);
+    void                  Interval(unsigned intervalle) { intervalle_ = intervalle; }
+    void                  Enabled(bool active);
     std::function<void()> Timer;
 
 private:

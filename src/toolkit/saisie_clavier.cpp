@@ -3,12 +3,11 @@
 #include "toolkit/interne.h"
 
 namespace {
-bool Est_enfoncee(int touche) {
-    return GetKeyState(touche) < 0;
-}
+bool Est_enfoncee(int touche) { return GetKeyState(touche) < 0; }
 
 int Etat_majuscules() {
-    return (Est_enfoncee(VK_SHIFT) ? 1 : 0) + (Est_enfoncee(VK_CONTROL) ? 2 : 0) + (Est_enfoncee(VK_MENU) ? 4 : 0);
+    return (Est_enfoncee(VK_SHIFT) ? 1 : 0) + (Est_enfoncee(VK_CONTROL) ? 2 : 0) +
+           (Est_enfoncee(VK_MENU) ? 4 : 0);
 }
 
 bool Est_souris(UINT message) {
@@ -76,7 +75,8 @@ bool Saisie_clavier::Reservee(const MSG & message, Bouton_commande & bouton) {
     }
     if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
     if (message.message == WM_KEYDOWN) {
-        const bool sur_bouton = bouton.A_le_focus() && (message.wParam == VK_RETURN || message.wParam == VK_SPACE);
+        const bool sur_bouton =
+            bouton.A_le_focus() && (message.wParam == VK_RETURN || message.wParam == VK_SPACE);
         if (message.wParam == VK_ESCAPE || sur_bouton) bouton.Cliquer();
     }
     if (message.message == WM_SYSKEYDOWN) {

@@ -1,0 +1,224 @@
+#include "forms/aide_gestion_fichiers.h"
+#include "pilote/korvane.h"
+
+#include <set>
+
+using namespace Pilote;
+
+class Aide : public Korvane {
+protected:
+    const std::wstring introduction = L"  Vous avez activé l'aide du gestionnaire de fichiers en cliquant "
+                                      L"sur le point d'interrogation ou par appui sur la "
+                                      L"touche F1, il suffit de cliquer à nouveau sur ce point "
+                                      L"d'interrogation ou appuyer sur la touche F1 pour arrêter "
+                                      L"l'aide contextuelle. Les informations seront affichées en plaçant le "
+                                      L"pointeur de souris sur la liste, le champ ou "
+                                      L"le bouton dont vous désirez être informé.";
+
+    int Hauteur() const {
+        const RECT place = Place_ecran(Principale());
+        return place.bottom - place.top;
+    }
+    bool Panneau_visible() const {
+        RECT interieur{};
+        GetClientRect(Principale(), &interieur);
+        return Place_client(Controle(L"Fenêtre")).bottom <= interieur.bottom;
+    }
+    bool Panneau_cache() const {
+        RECT interieur{};
+        GetClientRect(Principale(), &interieur);
+        return Place_client(Controle(L"Fenêtre")).top >= interieur.bottom - 1;
+    }
+    // The window itself, between the SOURCE frame and the commands.
+    POINT Entre_les_elements() const {
+        const RECT cadre  = Place_ecran(Controle(L"Cadre_srce"));
+        const RECT copier = Place_ecran(Controle(L"Info"));
+        return {(cadre.right + copier.left) / 2, copier.top};
+    }
+    int Hauteur_panneau() const {
+        const RECT place = Place_client(Controle(L"Fenêtre"));
+        return place.bottom - place.top;
+    }
+};
+
+TEST_F(Aide, f1_puis_f1_agrandit_la_fenetre_du_panneau_puis_lui_rend_sa_hauteur) {
+    Lancer();
+    const int normale = Hauteur();
+    EXPECT_TRUE(Panneau_cache());
+    for (int fois = 0; fois < 2; ++fois) {
+        Frapper(VK_F1);
+        ATTENDRE(Hauteur() > normale);
+        EXPECT_EQ(Hauteur(), normale + Hauteur_panneau());
+        EXPECT_TRUE(Panneau_visible());
+        ATTENDRE(Lire(L"Fenêtre") == introduction);
+        Frapper(VK_F1);
+        ATTENDRE(Hauteur() == normale);
+        EXPECT_TRUE(Panneau_cache());
+        ATTENDRE(Lire(L"Fenêtre").empty());
+    }
+}
+
+TEST_F(Aide, le_point_d_interrogation_fait_comme_f1) {
+    Lancer();
+    const int normale = Hauteur();
+    Cliquer(L"Aide");
+    ATTENDRE(Hauteur() == normale + Hauteur_panneau());
+    ATTENDRE(Lire(L"Fenêtre") == introduction);
+    // The panel still shows after the window has been an icon.
+    PostMessageW(Principale(), WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    ATTENDRE(IsIconic(Principale()));
+    PostMessageW(Principale(), WM_SYSCOMMAND, SC_RESTORE, 0);
+    ATTENDRE(!IsIconic(Principale()) && Hauteur() == normale + Hauteur_panneau());
+    SetForegroundWindow(Principale());
+    Reposer(Principale());
+    Cliquer(L"Aide");
+    ATTENDRE(Hauteur() == normale && Lire(L"Fenêtre").empty());
+}
+
+// Lines only separate; the panel itself says nothing of itself.
+TEST_F(Aide, chaque_element_visible_a_son_texte_qui_commence_par_deux_blancs) {
+    for (int i = 0; i < 8; ++i) Regler(L"Boutons", L"Bouton " + std::to_wstring(i), L"PROG.EXE");
+    Lancer();
+    Frapper(VK_F1);
+    ATTENDRE(Lire(L"Fenêtre") == introduction);
+    for (const bool mode_repertoire : {false, true}) {
+        if (mode_repertoire) Cliquer(L"Mode");
+        for (HWND controle : Controles(Principale())) {
+            const std::wstring nom = Nom(controle);
+            if (!Visible(controle) || nom.starts_with(L"Ligne") || nom == L"Fenêtre" ||
+                nom.starts_with(L"Cadre"))
+                continue;
+            Pointer(Entre_les_elements());
+            EXIGER(Lire(L"Fenêtre") == aide_fenetre_principale);
+            Pointer(controle);
+            Reposer(Principale());
+            const std::wstring texte = Lire(L"Fenêtre");
+            EXPECT_EQ(Utf8(texte.substr(0, 2)), "  ") << Utf8(nom);
+            EXPECT_GT(texte.size(), 30u) << Utf8(nom);
+            EXPECT_NE(texte, aide_fenetre_principale) << Utf8(nom) << " n'a pas de texte";
+        }
+    }
+}
+
+TEST_F(Aide, chaque_texte_est_celui_de_son_element) {
+    Regler(L"Boutons", L"Bloc", L"PROG.EXE");
+    Lancer();
+    Frapper(VK_F1);
+    ATTENDRE(Lire(L"Fenêtre") == introduction);
+    struct Cas {
+        const wchar_t * controle;
+        const wchar_t * texte;
+    };
+    for (const Cas & cas :
+         {Cas{L"Bouton(0)",
+              L"  Ces boutons exécutent les commandes indiquées sur ceux-ci avec une demande préalable de "
+              L"confirmation si elle est paramètrée dans les options."},
+          Cas{L"Espace_libre",
+              L"  Ce nombre indique en temps réel la place restante (en Kilo-octets) sur l'unité "
+              L"destinataire.Ceci permet de savoir, en le comparant avec le total affiché pour le(s) "
+              L"fichier(s) sélectionné(s), si la copie du(des) fichier(s) sera acceptée."},
+          Cas{L"Chemin_srce", aide_chemin_srce},
+          Cas{L"Unité_srce", aide_unité_srce},
+          Cas{L"Sélection_fichiers", aide_sélection_fichiers},
+          Cas{L"Répertoire_srce", aide_répertoire_srce},
+          Cas{L"Fichier_srce", aide_fichier_srce},
+          Cas{L"Copier", aide_copier},
+          Cas{L"Effacer", aide_effacer},
+          Cas{L"Chemin_dest", aide_chemin_dest},
+          Cas{L"Unité_dest", aide_unité_dest},
+          Cas{L"Croiser", aide_croiser},
+          Cas{L"Répertoire_dest", aide_répertoire_dest},
+          Cas{L"Fichier_dest", aide_fichier_dest},
+          Cas{L"Ligne_message", aide_ligne_message},
+          Cas{L"Options", aide_options},
+          Cas{L"Aide", introduction.c_str()},
+          Cas{L"Quitter", aide_quitter},
+          Cas{L"Titre_srce", aide_titre_srce},
+          Cas{L"Titre_dest", aide_titre_dest}}) {
+        Survoler(cas.controle);
+        EXPECT_TRUE(Attendre([&] { return Lire(L"Fenêtre") == cas.texte; }, 1000))
+            << Utf8(cas.controle) << " : " << Utf8(Lire(L"Fenêtre"));
+    }
+}
+
+TEST_F(Aide, sans_aide_le_pointeur_ne_change_rien) {
+    Lancer();
+    const int normale = Hauteur();
+    for (const wchar_t * controle : {L"Copier", L"Fichier_srce", L"Espace_libre", L"Quitter"}) {
+        Survoler(controle);
+        EXPECT_TRUE(Lire(L"Fenêtre").empty()) << Utf8(controle);
+    }
+    EXPECT_EQ(Hauteur(), normale);
+}
+
+TEST_F(Aide, avec_le_fichier_d_aide_f1_et_le_bouton_l_ouvrent_au_lieu_du_panneau) {
+    Regler(L"Options", L"Aide en ligne", L"OUI.");
+    Lancer();
+    const int   normale = Hauteur();
+    const Boite absent{L"Gestionnaire de fichiers", L"Le fichier d'aide KORVANE.HLP est introuvable.",
+                       MB_OK | MB_ICONINFORMATION};
+    Cliquer(L"Aide");
+    Attendre_boite(absent, IDOK);
+    ATTENDRE(GetForegroundWindow() == Principale() && A_le_focus(L"Aide"));
+    Frapper(VK_F1);
+    Attendre_boite(absent, IDOK);
+    EXPECT_EQ(Hauteur(), normale);
+    Survoler(L"Copier");
+    EXPECT_TRUE(Lire(L"Fenêtre").empty());
+}
+
+// Names too long for their list.
+class Astuce : public Korvane {
+protected:
+    const std::wstring nom_long =
+        L"Un nom de fichier bien trop long pour tenir dans la largeur de la liste des fichiers.txt";
+};
+
+TEST_F(Astuce, le_nom_entier_d_une_entree_trop_longue_se_montre_sous_le_pointeur) {
+    Creer_fichier(Source(nom_long), "x");
+    Creer_source(L"court.txt", 1);
+    Creer_dossier(Source(L"répertoire " + nom_long));
+    Lancer_dans_les_dossiers();
+    Ouvrir(L"dest", source);
+    const auto pointer = [this](const wchar_t * liste, const std::wstring & entree) {
+        const HWND fenetre = Controle(liste);
+        Pointer(Point_entree(fenetre, Rang_entree(fenetre, entree)));
+        Reposer(Principale());
+    };
+    for (const wchar_t * liste : {L"Fichier_srce", L"Fichier_dest"}) {
+        EXPECT_FALSE(Se_voit(L"Tip"));
+        pointer(liste, nom_long);
+        ATTENDRE(Se_voit(L"Tip"));
+        EXPECT_EQ(Utf8(Lire(L"Tip")), Utf8(L" " + nom_long));
+        const RECT boite = Place_ecran(Controle(L"Tip"));
+        POINT      point{};
+        GetCursorPos(&point);
+        EXPECT_GT(boite.top, point.y);
+        pointer(liste, L"court.txt");
+        ATTENDRE(!Se_voit(L"Tip"));
+    }
+    for (const wchar_t * liste : {L"Répertoire_srce", L"Répertoire_dest"}) {
+        pointer(liste, L"répertoire " + nom_long);
+        ATTENDRE(Se_voit(L"Tip"));
+        EXPECT_EQ(Utf8(Lire(L"Tip")), Utf8(L" répertoire " + nom_long));
+        Survoler(L"Copier");
+        ATTENDRE(!Se_voit(L"Tip"));
+    }
+}
+
+TEST_F(Astuce, elle_disparait_quand_la_liste_defile_et_ne_gene_pas_le_clic) {
+    for (int i = 10; i < 60; ++i) Creer_fichier(Source(std::to_wstring(i) + nom_long), "x");
+    Lancer_dans_les_dossiers();
+    const HWND liste = Controle(L"Fichier_srce");
+    Pointer(Point_entree(liste, 3));
+    Reposer(Principale());
+    ATTENDRE(Se_voit(L"Tip"));
+    Tourner_molette(liste, -1);
+    Reposer(Principale());
+    ATTENDRE(Premiere_visible(liste) > 0);
+    const int rang = Premiere_visible(liste) + 2;
+    Pilote::Cliquer(Point_entree(liste, rang));
+    ATTENDRE(Choisies() == std::vector<std::wstring>{Entree(liste, rang)});
+    PostMessageW(liste, WM_VSCROLL, SB_PAGEDOWN, 0);
+    ATTENDRE(!Se_voit(L"Tip"));
+}
