@@ -11,6 +11,7 @@ bool Entier(const std::wstring & chemin, std::uint64_t empreinte) {
 }  // namespace
 
 Lots::Lots() : modele_(dossier / L"modele") {
+    Unite::Vider(L'D');
     for (unsigned i = 0; i < nombre_fichiers; ++i) {
         const std::wstring nom = L"lot" + std::to_wstring(i) + L".dat";
         Creer_fichier_graine(modele_ + L"\\" + nom, 200001u + i * 260003u, i + 1);
@@ -29,7 +30,7 @@ void Lots::Remettre() {
         EXPECT_TRUE(Effacer(L"D:\\" + nom));
         if (!Existe(Source(nom))) CopyFileW((modele_ + L"\\" + nom).c_str(), Source(nom).c_str(), TRUE);
     }
-    EXPECT_TRUE(Noms(L"D:\\").empty());
+    EXPECT_EQ(Noms(L"D:\\"), std::vector<std::wstring>());
 }
 
 unsigned Lots::Mesurer(const std::wstring & bouton) {
