@@ -1,6 +1,6 @@
 # What needs no window: built natively and for Windows, never against <windows.h>.
 set(KORVANE_SOURCES_LOGIQUE
-    src/app/chemins.cpp
+    src/platform/chemins.cpp
     src/app/cles_profil.cpp
     src/app/libelles_erreur.cpp
     src/app/nombres.cpp

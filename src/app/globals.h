@@ -27,9 +27,8 @@ struct Variables {
     bool         Mode_repertoire  = false;
     bool         Mode_resultats   = false;  // search results instead of the SOURCE files
     bool         Tout_selectionne = false;
-    std::wstring Motif_sauve;
-    double       Espace_libre_ko = 0;  // of the DESTINATION drive, units of 1000 bytes
-    std::wstring Texte_chemin;         // carries a path into Raccourcir_chemin and back
+    double       Espace_libre_ko  = 0;  // of the DESTINATION drive, units of 1000 bytes
+    std::wstring Texte_chemin;          // carries a path into Raccourcir_chemin and back
     // Directories were made, renamed or removed: the disk tree of the search and the DESTINATION list are to
     // be read again.
     bool Arborescence_perimee = false;

@@ -1,9 +1,9 @@
 #include "app/routines.h"
 
-#include "app/chemins.h"
 #include "app/fenetres.h"
 #include "app/globals.h"
 #include "forms/gestion_fichiers.h"
+#include "platform/chemins.h"
 #include "platform/textes.h"
 #include "platform/unites.h"
 #include "toolkit/application.h"

@@ -86,8 +86,12 @@ void Valider_unite(const Panneau & p, const std::wstring & commande, wchar_t & c
         [&] {
             const std::wstring avant = p.unite.Drive();
             p.unite.Drive(p.unite.List(p.unite.ListIndex()));
-            // A drive that really changed has told so already.
-            if (p.unite.Drive() == avant) changement();
+            // A drive that really changed has told so already. The same one is read again, another medium included.
+            if (p.unite.Drive() != avant) return;
+            p.repertoire.Path(p.unite.Drive());
+            p.repertoire.Refresh();
+            Appliquer_motif(p.fichiers);
+            changement();
         },
         [&] { Remettre_unite(p); });
 }
@@ -104,7 +108,9 @@ void Répertoire_dest_Click() {
     static bool en_cours = false;
     Une_fois(en_cours, [] {
         Gestion_Fichiers & f = Principale();
-        Pieger(L"REPERT. DESTINATION", [&] { Ouvrir_entree(Destination(f), Source(f)); });
+        Pieger(
+            L"REPERT. DESTINATION", [&] { Ouvrir_entree(Destination(f), Source(f)); },
+            [&] { f.Répertoire_dest.ListIndex(-1); });
     });
 }
 
@@ -173,16 +179,19 @@ void Permuter(Gestion_Fichiers & f) {
     f.Répertoire_srce.Path(destination);
     f.Répertoire_dest.Path(source);
     variables.Commande_en_cours = L"CROISER";
-    if (f.Unité_srce.Drive() != f.Unité_dest.Drive()) return;
+    if (f.Unité_srce.Drive().front() != f.Unité_dest.Drive().front()) return;
     Retablir_fenetre();
 }
 
 void Croiser_Click() {
     if (variables.Garde) return;
-    Gestion_Fichiers & f = Principale();
+    Gestion_Fichiers & f      = Principale();
+    const std::wstring source = f.Répertoire_srce.Path();
     Pieger(
         L"CROISER", [&] { Permuter(f); },
         [&] {
+            // Half a swap would show one directory twice.
+            Tenter([&] { f.Répertoire_srce.Path(source); });
             Remettre_unite(Source(f));
             Remettre_unite(Destination(f));
         });
@@ -216,10 +225,13 @@ void Répertoire_srce_Click() {
     static bool en_cours = false;
     Une_fois(en_cours, [] {
         Gestion_Fichiers & f = Principale();
-        Pieger(L"REPERT. SOURCE", [&] {
-            Ouvrir_entree(Source(f), Destination(f));
-            Selectionner_premier(f);
-        });
+        Pieger(
+            L"REPERT. SOURCE",
+            [&] {
+                Ouvrir_entree(Source(f), Destination(f));
+                Selectionner_premier(f);
+            },
+            [&] { f.Répertoire_srce.ListIndex(-1); });
     });
 }
 

@@ -1,12 +1,12 @@
 #include "browser/selection.h"
 
-#include "app/chemins.h"
 #include "app/fenetres.h"
 #include "app/garde.h"
 #include "app/globals.h"
 #include "browser/ligne_selection.h"
 #include "browser/panneaux.h"
 #include "forms/gestion_fichiers.h"
+#include "platform/chemins.h"
 #include "platform/fichiers.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
@@ -136,7 +136,7 @@ void Chemin_destination() {
     variables.Chemin_cible = Joindre(Principale().Répertoire_dest.Path(), variables.Fichier_courant);
 }
 
-Parcours::Parcours(const Gestion_Fichiers & f) {
+Parcours::Parcours(const Gestion_Fichiers & f) : destination_(f.Répertoire_dest.Path()) {
     if (variables.Mode_resultats) {
         for (const int index : f.Fichier_sél.Selection())
             fichiers_.push_back(Resultat(f.Fichier_sél.List(index)));
@@ -157,7 +157,7 @@ bool Parcours::Suivant() {
     const Fichier_choisi & fichier = fichiers_[suivant_++];
     variables.Fichier_courant      = fichier.nom;
     variables.Chemin_source        = Joindre(fichier.repertoire, fichier.nom);
-    Chemin_destination();
+    variables.Chemin_cible         = Joindre(destination_, fichier.nom);
     return true;
 }
 

@@ -35,6 +35,7 @@ public:
     std::uint64_t          Total() const { return total_; }  // bytes
 
 private:
+    std::wstring                destination_;  // directory, as it was when the walk began
     std::vector<Fichier_choisi> fichiers_;
     std::size_t                 suivant_ = 0;
     std::uint64_t               total_   = 0;

@@ -1,4 +1,3 @@
-#include "app/chemins.h"
 #include "app/garde.h"
 #include "app/globals.h"
 #include "browser/selection.h"
@@ -8,6 +7,7 @@
 #include "fileops/destination.h"
 #include "fileops/questions.h"
 #include "forms/gestion_fichiers.h"
+#include "platform/chemins.h"
 #include "platform/erreur.h"
 #include "platform/fichiers.h"
 #include "platform/systeme.h"

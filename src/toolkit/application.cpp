@@ -119,7 +119,9 @@ void Patienter(unsigned millisecondes) {
 }
 
 Entree_reservee::Entree_reservee(Bouton_commande & bouton)
-    : avant_(std::exchange(Etat().reserve, &bouton)), focus_(Controle_de_poignee(GetFocus())) {}
+    : avant_(std::exchange(Etat().reserve, &bouton)), focus_(Controle_de_poignee(GetFocus())) {
+    bouton.Parent().Refermer_listes();
+}
 
 Entree_reservee::~Entree_reservee() {
     Etat().reserve = avant_;

@@ -151,6 +151,7 @@ std::intptr_t Controle::Recevoir(unsigned message, std::uintptr_t mot, std::intp
         if (fenetre_.MouseMove) fenetre_.MouseMove(this);
         break;
     case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
         if (MouseDown) {
             bool finie = false;
             MouseDown(finie);

@@ -102,6 +102,7 @@ protected:
     // The focus again after a box or another window: what was marked in the control stays as it was.
     virtual void Reprendre_focus();
     void         Focus_pris();  // this is the control that has the focus in its window from now on
+    virtual void Refermer() {}  // an open drop-down list closes, nothing chosen
     virtual bool Deroule() const { return false; }  // a drop-down list is open: Enter and Escape are its own
     virtual bool Veut_fleches() const { return false; }  // arrows walk through a group of options
     virtual void Peripherique_change() {}                // a device arrived or left

@@ -214,6 +214,12 @@ void Fenetre::Hide() {
 
 bool Fenetre::Montree() const { return montree_; }
 
+void Fenetre::Refermer_listes() {
+    for (Controle * controle : controles_) {
+        if (controle != nullptr) controle->Refermer();
+    }
+}
+
 void Fenetre::Redessiner() {
     RedrawWindow(poignee_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }

@@ -52,6 +52,7 @@ public:
     double     Hauteur_texte(std::wstring_view texte,
                              int               largeur) const;  // twips, words wrapped at `largeur` twips
     void       Redessiner();
+    void       Refermer_listes();  // drop-down lists that are open, nothing chosen
     Controle * Trouver(std::wstring_view nom) const;
     Controle * Controle_de(Poignee_fenetre poignee) const;
     // Publishes the window property "sablier" and shows the pointer at once.

@@ -81,6 +81,12 @@ void Liste_combinee::Clear() {
 
 bool Liste_combinee::Deroule() const { return Envoyer(CB_GETDROPPEDSTATE) != 0; }
 
+void Liste_combinee::Refermer() {
+    if (!Deroule()) return;
+    annule_ = true;
+    Envoyer(CB_SHOWDROPDOWN, FALSE);
+}
+
 void Liste_combinee::Caret_a_la_fin() {
     const auto fin = static_cast<WORD>(Texte_fenetre().size());
     Envoyer(CB_SETEDITSEL, 0, MAKELPARAM(fin, fin));
@@ -140,9 +146,12 @@ void Liste_combinee::Oublier_choix() {
 }
 
 bool Liste_combinee::Message(unsigned message, std::uintptr_t mot, std::intptr_t, std::intptr_t & resultat) {
-    if (message != message_choix) return false;
     resultat = 0;
-    if (mot != 0) {
+    // In the closed list the wheel would walk through drives, reading each of them.
+    if (message == WM_MOUSEWHEEL && !Deroule()) return true;
+    if (message != message_choix) return false;
+    // Whatever way it came by, a choice made while a command runs is none.
+    if (mot != 0 || Bouton_reserve() != nullptr) {
         if (!editable_) Envoyer(CB_SETCURSEL, static_cast<WPARAM>(dernier_));
     } else if (ListIndex() >= 0 && (ListIndex() != dernier_ || editable_)) {
         // Choosing the same predefined entry again gives its text again.

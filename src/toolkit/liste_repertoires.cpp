@@ -1,4 +1,4 @@
-#include "app/chemins.h"
+#include "platform/chemins.h"
 #include "platform/erreur.h"
 #include "platform/textes.h"
 #include "platform/windows.h"
@@ -147,7 +147,9 @@ void Liste_repertoires::Apres_message(unsigned message, std::uintptr_t mot, std:
     if (message != WM_LBUTTONUP || !pressee_) return;
     // The second click of a double one belongs to the list that the first has already replaced.
     pressee_ = false;
-    if (Click) Click();
+    // Released outside the list, or below the last entry, the button opens nothing.
+    bool coupee = false;
+    if (Entree_survolee(coupee) >= 0 && Click) Click();
 }
 
 std::size_t Liste_repertoires::Profondeur(int ligne) const {

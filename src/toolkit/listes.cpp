@@ -140,7 +140,8 @@ int Liste::Entree_survolee(bool & coupee) const {
 }
 
 void Liste::Notification(unsigned code) {
-    if (code == LBN_SELCHANGE) {
+    // A drag that ends outside the list is told as cancelled, although what it marked stays marked.
+    if (code == LBN_SELCHANGE || code == LBN_SELCANCEL) {
         touche_ = true;
         if (Click) Click();
     } else if (code == LBN_DBLCLK && DblClick) {

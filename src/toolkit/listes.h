@@ -78,6 +78,7 @@ protected:
     void         Choisir_en_silence(int index);
     bool         Prendre_touche(int touche) override;
     bool         Deroule() const override;
+    void         Refermer() override;
     void         Reprendre_focus() override;
 
 private:

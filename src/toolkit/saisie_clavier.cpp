@@ -10,10 +10,10 @@ int Etat_majuscules() {
            (Est_enfoncee(VK_MENU) ? 4 : 0);
 }
 
-bool Est_souris(UINT message) {
-    return (message >= WM_LBUTTONDOWN && message <= WM_MBUTTONDBLCLK) ||
-           (message >= WM_XBUTTONDOWN && message <= WM_XBUTTONDBLCLK);
-}
+// Buttons and wheel: the wheel over a closed drop-down list chooses another entry.
+bool Est_souris(UINT message) { return message >= WM_LBUTTONDOWN && message <= WM_MOUSELAST; }
+
+bool Est_souris_cadre(UINT message) { return message >= WM_NCLBUTTONDOWN && message <= WM_NCXBUTTONDBLCLK; }
 }  // namespace
 
 bool Saisie_clavier::Entree(Fenetre & fenetre, Controle * controle) {
@@ -69,9 +69,10 @@ bool Saisie_clavier::Caractere(MSG & message, Controle * controle) {
 
 bool Saisie_clavier::Reservee(const MSG & message, Bouton_commande & bouton) {
     if (Est_souris(message.message)) return message.hwnd != bouton.Poignee();
-    if (message.message == WM_NCLBUTTONDOWN || message.message == WM_NCLBUTTONDBLCLK) {
-        // Dragging the frame would hold the command up as long as the button is down.
-        return message.wParam != HTMINBUTTON && message.wParam != HTCLOSE;
+    if (Est_souris_cadre(message.message)) {
+        // Dragging the frame, or its menu, would hold the command up as long as it lasts.
+        const bool gauche = message.message == WM_NCLBUTTONDOWN || message.message == WM_NCLBUTTONUP;
+        return !gauche || (message.wParam != HTMINBUTTON && message.wParam != HTCLOSE);
     }
     if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
     if (message.message == WM_KEYDOWN) {

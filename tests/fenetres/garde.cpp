@@ -75,6 +75,38 @@ TEST_F(Gardes, les_listes_ne_bougent_pas) {
     Arreter();
 }
 
+TEST_F(Gardes, la_molette_ne_change_ni_unite_ni_repertoire) {
+    Lancer_copie_longue();
+    for (const wchar_t * liste : {L"Unité_dest", L"Unité_srce", L"Sélection_fichiers", L"Répertoire_dest"}) {
+        const std::wstring avant = Lire(liste);
+        Pilote::Tourner_molette(Controle(liste), -2);
+        Pilote::Tourner_molette(Controle(liste), 2);
+        Verifier_sourde(liste);
+        EXPECT_EQ(Utf8(Lire(liste)), Utf8(avant));
+    }
+    Verifier_volets();
+    Arreter();
+}
+
+TEST_F(Gardes, une_liste_d_unites_deroulee_se_referme_quand_la_commande_part) {
+    Creer_longue(Source(L"longue.dat"));
+    Lancer_dans_les_dossiers();
+    Choisir_un(L"longue.dat");
+    const std::wstring avant = Lire(L"Unité_dest");
+    Cliquer(L"Unité_dest");
+    EXIGER(Deroulee(Controle(L"Unité_dest")));
+    Frapper(VK_DOWN);
+    Pilote::Alt(L'c');
+    Attendre_commencee();
+    EXPECT_FALSE(Deroulee(Controle(L"Unité_dest")));
+    EXPECT_EQ(Utf8(Lire(L"Chemin_dest")), Utf8(destination));
+    Commencer(L"Arret");
+    Attendre_fin_commande();
+    EXPECT_EQ(Utf8(Lire(L"Unité_dest")), Utf8(avant));
+    EXPECT_EQ(Utf8(Lire(L"Chemin_dest")), Utf8(destination));
+    EXPECT_EQ(Noms(destination), std::vector<std::wstring>());
+}
+
 TEST_F(Gardes, le_clavier_n_atteint_que_l_arret) {
     Lancer_copie_longue();
     for (wchar_t lettre : {L'q', L'k', L'c', L'd', L's', L'm', L'u'}) {

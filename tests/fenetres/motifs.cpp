@@ -123,6 +123,31 @@ TEST_F(Motifs, les_selections_predefinies_portent_leurs_noms_et_donnent_leurs_mo
     Les_listes_montrent({L"ÉTÉ.TXT"});
 }
 
+TEST_F(Motifs, une_selection_predefinie_qui_porte_le_nom_de_son_motif_s_applique) {
+    Regler(L"Sélections", L"*.txt", L"*.txt");
+    Lancer_avec_fichiers();
+    Choisir_predefinie(0);
+    EXPECT_EQ(Lire(L"Sélection_fichiers"), L"*.txt");
+    Les_listes_montrent({L"a.txt", L"ÉTÉ.TXT"});
+}
+
+TEST_F(Motifs, la_molette_sur_une_liste_fermee_ne_choisit_rien) {
+    Regler(L"Sélections", L"Textes", L"*.txt");
+    Lancer_avec_fichiers();
+    const std::wstring unite = Lire(L"Unité_srce");
+    for (const wchar_t * liste : {L"Unité_srce", L"Sélection_fichiers"}) {
+        Cliquer(liste);
+        ATTENDRE(Pilote::Deroulee(Controle(liste)) || A_le_focus(liste));
+        Pilote::Frapper(VK_ESCAPE);
+        ATTENDRE(!Pilote::Deroulee(Controle(liste)));
+        Pilote::Tourner_molette(Controle(liste), -1);
+        Pilote::Tourner_molette(Controle(liste), 1);
+        Pilote::Reposer(Principale());
+    }
+    EXPECT_EQ(Lire(L"Unité_srce"), unite);
+    EXPECT_EQ(Lire(L"Sélection_fichiers"), L"*.*");
+}
+
 TEST_F(Motifs, une_touche_ou_une_selection_predefinie_vide_la_ligne_de_message) {
     Regler(L"Sélections", L"Tout", L"*.*");
     Lancer_avec_fichiers();

@@ -102,3 +102,26 @@ TEST_F(Unites_ADEF, un_support_en_lecture_seule_se_parcourt) {
     Choisir({L"lisez.txt"});
     EXPECT_EQ(Lire(L"Ligne_message"), L"   1 fichier sélectionné, total = 14 octets.");
 }
+
+TEST_F(Unites_ADEF, la_touche_entree_signale_une_disquette_retiree_et_relit_celle_qui_la_remplace) {
+    Pilote::Unite::Inserer_disquette(1);
+    Pilote::Unite::Vider(L'A');
+    Pilote::Creer_fichier(L"A:\\un.txt", "1");
+    Lancer();
+    for (const wchar_t * cote : {L"srce", L"dest"}) {
+        const std::wstring unite    = std::wstring(L"Unité_") + cote,
+                           fichiers = std::wstring(L"Fichier_") + cote;
+        Pilote::Unite::Inserer_disquette(1);
+        Choisir_unite(unite, L'a');
+        ATTENDRE(Entrees(fichiers) == Textes{L"un.txt"});
+        Pilote::Unite::Retirer_disquette();
+        Pilote::Frapper(VK_RETURN);
+        Support_absent(L"A:");
+        EXPECT_EQ(Entrees(fichiers), Textes{L"un.txt"});
+        Pilote::Unite::Inserer_disquette(1);
+        Pilote::Creer_fichier(L"A:\\deux.txt", "2");
+        Pilote::Frapper(VK_RETURN);
+        ATTENDRE((Entrees(fichiers) == Textes{L"deux.txt", L"un.txt"}));
+        Pilote::Effacer(L"A:\\deux.txt");
+    }
+}

@@ -1,4 +1,4 @@
-#include "app/chemins.h"
+#include "platform/chemins.h"
 
 #include <gtest/gtest.h>
 
