@@ -37,6 +37,7 @@ lancer_wine 900 "$travail/resultats.txt" build/windows-x64/banc.exe "$(en_wine "
 (cd "$travail/programme" && lancer_wine 30 /dev/null ./KORVANE.EXE) &
 sleep 5
 for processus in $(pgrep -f '^(.*[\\/])?KORVANE\.EXE'); do
+    [ "$(readlink "/proc/$processus/exe" 2>/dev/null | xargs -r basename)" != timeout ] || continue
     grep -q "$WINEPREFIX" "/proc/$processus/environ" 2>/dev/null || continue
     awk '/^Private_/ { ko += $2 } END { mo = ko / 1024; printf "%-44s %10.3f %10s %8s  <= 12.00  %s\n", "mémoire privée (Mo)", mo, "", "", mo <= 12 ? "atteint" : "NON ATTEINT" }' \
         "/proc/$processus/smaps_rollup" >>"$travail/resultats.txt"

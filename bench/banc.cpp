@@ -180,7 +180,8 @@ HWND Attendre_fenetre(DWORD processus, const std::function<bool(HWND)> & voulue)
                 return FALSE;
             },
             reinterpret_cast<LPARAM>(&recherche));
-        if (recherche.trouvee == nullptr) Sleep(1);
+        // Looking for the window takes the same server that both programs start with.
+        if (recherche.trouvee == nullptr) Sleep(5);
     }
     return recherche.trouvee;
 }

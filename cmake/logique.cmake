@@ -3,7 +3,7 @@ set(KORVANE_SOURCES_LOGIQUE
     src/platform/chemins.cpp
     src/app/cles_profil.cpp
     src/app/libelles_erreur.cpp
-    src/app/nombres.cpp
+    src/platform/nombres.cpp
     src/browser/ligne_selection.cpp
     src/fileops/jauge.cpp
     src/fileops/questions.cpp

@@ -3,13 +3,13 @@
 #include "app/fenetre_principale.h"
 #include "app/garde.h"
 #include "app/globals.h"
-#include "app/nombres.h"
 #include "app/routines.h"
 #include "app/settings.h"
 #include "browser/panneaux.h"
 #include "forms/apropos.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/fichiers.h"
+#include "platform/nombres.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
 #include "toolkit/application.h"
@@ -74,6 +74,9 @@ void Ouvrir_choisi(Gestion_Fichiers & f) {
     if (choisi.size() < 2 || choisi[1] != L':') return;
     f.Unité_srce.Drive(choisi);
     f.Unité_dest.Drive(choisi);
+    // A drive's change opens its current directory, which a path too long to be current is not.
+    f.Répertoire_srce.Path(choisi);
+    f.Répertoire_dest.Path(choisi);
 }
 
 void Ouvrir_repertoire_initial(Gestion_Fichiers & f) {

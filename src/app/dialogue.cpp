@@ -2,9 +2,9 @@
 
 #include "app/fenetres.h"
 #include "app/globals.h"
-#include "app/nombres.h"
 #include "forms/dialogue.h"
 #include "forms/gestion_fichiers.h"
+#include "platform/nombres.h"
 #include "toolkit/application.h"
 
 #include <algorithm>
@@ -91,10 +91,13 @@ int Choix_bouton(const std::wstring & message, const std::wstring & bouton1, con
     d.Icone.Visible(image != Image::Icone::aucune);
     Disposer(d, message, captions, image != Image::Icone::aucune);
     d.Caption(titre);
-    d.Tag = Avec_signe(defaut);
+    // A button that does not show cannot have the focus.
+    d.Tag = Avec_signe(captions[static_cast<std::size_t>(defaut - 1)].empty() ? 3 : defaut);
     Form_Paint();
-    d.Show_modal(Principale());
-    return static_cast<int>(Valeur(d.Tag));
+    Fenetre * devant = Application::Devant();
+    d.Show_modal(devant == nullptr ? Principale() : *devant);
+    // A program that ends meanwhile has had no answer.
+    return Application::Terminee() ? 3 : static_cast<int>(Valeur(d.Tag));
 }
 
 void Brancher_dialogue(Dialogue & d) {

@@ -104,6 +104,8 @@ void A_propos_Click() {
                  Principale().Top() + (Principale().Height() - apropos.Height()) / 2);
     apropos.OK.SetFocus();
     apropos.Show_modal(Principale());
+    // After the focus has come back, which explains the control that takes it.
+    if (variables.Aide_active) Rappel_aide();
 }
 
 void Brancher_fenetre_principale(Gestion_Fichiers & f) {

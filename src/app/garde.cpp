@@ -9,6 +9,7 @@
 #include "platform/erreur.h"
 #include "toolkit/application.h"
 
+#include <exception>
 #include <new>
 #include <optional>
 #include <utility>
@@ -23,6 +24,9 @@ std::optional<Erreur_execution> Executer(const std::function<void()> & corps) {
         return erreur;
     } catch (const std::bad_alloc &) {
         return Erreur_execution(Numero::memoire, 0, {});
+    } catch (const std::exception &) {
+        // A fault of ours: it must not cross a window procedure either.
+        return Erreur_execution(Numero::entree_sortie, 0, {});
     }
 }
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include "app/cles_profil.h"
 #include "app/globals.h"
-#include "app/nombres.h"
+#include "platform/nombres.h"
 #include "platform/profil.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
@@ -44,7 +44,9 @@ void Lire_iconise() {
 bool Demarrage_iconise() { return Est_oui(variables.Option_iconise); }
 
 void Lire_bordure() {
-    variables.Bordure = Valeur(Lire_profil({}, Section::windows, Cle::bordure, L"3", tampon_bordure));
+    const std::wstring bordure = Lire_profil({}, Section::windows, Cle::bordure, L"3", tampon_bordure);
+    variables.Longueur_lue     = bordure.size();
+    variables.Bordure          = Valeur(bordure);
 }
 
 void Lire_options_commandes() {

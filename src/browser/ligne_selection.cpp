@@ -1,6 +1,6 @@
 #include "browser/ligne_selection.h"
 
-#include "app/nombres.h"
+#include "platform/nombres.h"
 
 std::wstring Ligne_selection(std::size_t nombre, std::wstring_view total) {
     if (nombre == 0) return {};

@@ -1,10 +1,10 @@
 #include "fileops/confirmations.h"
 
 #include "app/globals.h"
-#include "app/nombres.h"
 #include "app/routines.h"
 #include "fileops/questions.h"
 #include "forms/gestion_fichiers.h"
+#include "platform/nombres.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
 #include "toolkit/boites.h"

@@ -38,17 +38,17 @@ void Refuser_copie_sur_soi() {
                   Boite::ok | Boite::exclamation, variables.Commande_en_cours);
 }
 
-void Montrer_jauge(Gestion_Fichiers & f, bool visible) {
-    f.Jauge.Value(0);
-    f.Jauge.Caption(L"");
-    f.Jauge.Visible(visible);
-    for (Ligne & bord : f.Ligne_jauge) bord.Visible(visible);
+void Montrer_jauge(Gestion_Fichiers & f, const Avance & avance) {
+    f.Jauge.Value(avance.Pourcentage());
+    f.Jauge.Caption(avance.Visible() ? avance.Texte() : L"");
+    f.Jauge.Visible(avance.Visible());
+    for (Ligne & bord : f.Ligne_jauge) bord.Visible(avance.Visible());
 }
 
 // Moves the file block by block; false when the user stopped it.
 bool Transferer(Gestion_Fichiers & f, Transfert & transfert) {
     Avance avance(transfert.Longueur());
-    Montrer_jauge(f, avance.Visible());
+    Montrer_jauge(f, avance);
     for (;;) {
         if (variables.Arret_demande) return false;
         if (!transfert.Bloc()) return true;
@@ -75,10 +75,10 @@ std::optional<Copie> Traiter_cible_existante(const Gestion_Fichiers & f) {
     return std::nullopt;
 }
 
-Copie Copier_fichier(Gestion_Fichiers & f, bool durable) {
+Copie Copier_fichier(Gestion_Fichiers & f, bool durable, Remplacement remplacement) {
     variables.Reponse   = Reponse_boite::oui;
     const bool existait = Fichier_existe(variables.Chemin_cible);
-    if (existait) {
+    if (existait && remplacement == Remplacement::a_demander) {
         if (const auto copie = Traiter_cible_existante(f)) return *copie;
     }
     // A source that cannot be read must not cost the target that it was to replace.
@@ -97,15 +97,16 @@ Copie Copier_fichier(Gestion_Fichiers & f, bool durable) {
     return Copie::faite;
 }
 
-Copie Copier_sur_disquettes(Gestion_Fichiers & f, bool durable) {
+Copie Copier_sur_disquettes(Gestion_Fichiers & f, bool durable, Remplacement remplacement) {
     for (;;) {
         std::optional<Erreur_execution> pleine;
         try {
-            return Copier_fichier(f, durable);
+            return Copier_fichier(f, durable, remplacement);
         } catch (const Erreur_execution & erreur) {
             if (erreur.numero != Numero::disque_plein || !Est_disquette(f.Unité_dest.Drive())) throw;
             pleine = erreur;
         }
+        remplacement = Remplacement::a_demander;
         Signaler_erreur(*pleine);
         if (variables.Reponse != Reponse_boite::oui) return Copie::arretee;
     }

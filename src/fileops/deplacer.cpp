@@ -55,39 +55,55 @@ bool Meme_unite(const std::wstring & a, const std::wstring & b) {
 }
 
 // Another drive: the source goes only once its copy is whole and on the disk.
-Suite Transporter(Deplacement & d) {
-    if (d.premier && !Verifier_espace(d.f, d.parcours.Total())) return Suite::terminer;
+Copie Transporter(Deplacement & d, Remplacement remplacement) {
+    if (d.premier && !Verifier_espace(d.f, d.parcours.Total())) return Copie::arretee;
     d.premier = false;
     if ((Lire_attributs(variables.Chemin_source) & Attribut::lecture) != 0) {
         throw Erreur_execution(Numero::acces_fichier, 0, variables.Chemin_source);
     }
-    const Copie copie = Copier_sur_disquettes(d.f, true);
-    if (copie == Copie::arretee) return Suite::terminer;
+    const Copie copie = Copier_sur_disquettes(d.f, true, remplacement);
     if (copie == Copie::faite) Supprimer_fichier(variables.Chemin_source);
-    return Suite::continuer;
+    return copie;
+}
+
+// A directory of that name, or a file protected against writing, is not replaced by a renaming either.
+void Refuser_cible_protegee(bool fichier) {
+    const bool protege = fichier && (Lire_attributs(variables.Chemin_cible) & Attribut::lecture) != 0;
+    if (protege || Repertoire_existe(variables.Chemin_cible)) {
+        throw Erreur_execution(Numero::acces_fichier, 0, variables.Chemin_cible);
+    }
+}
+
+// False when one drive letter leads to two volumes, between which nothing is renamed.
+bool Renommer(bool remplace) {
+    try {
+        if (remplace)
+            Remplacer_fichier(variables.Chemin_source, variables.Chemin_cible);
+        else
+            Renommer_fichier(variables.Chemin_source, variables.Chemin_cible);
+        return true;
+    } catch (const Erreur_execution & erreur) {
+        if (erreur.numero != Numero::autre_disque) throw;
+        return false;
+    }
 }
 
 // The same drive: one renaming. A file of that name is replaced when the user agrees.
-Suite Renommer_vers_destination(Deplacement & d) {
+Copie Renommer_vers_destination(Deplacement & d) {
     const bool existe = Fichier_existe(variables.Chemin_cible);
     variables.Reponse = Reponse_boite::oui;
     if (existe) {
-        if (const auto copie = Traiter_cible_existante(d.f)) {
-            return *copie == Copie::arretee ? Suite::terminer : Suite::continuer;
-        }
+        if (const auto copie = Traiter_cible_existante(d.f)) return *copie;
     }
-    // What is protected against writing is not replaced by a renaming either.
-    if (existe && (Lire_attributs(variables.Chemin_cible) & Attribut::lecture) != 0) {
-        throw Erreur_execution(Numero::acces_fichier, 0, variables.Chemin_cible);
+    Refuser_cible_protegee(existe);
+    if (!Renommer(existe)) {
+        const Copie copie = Transporter(d, existe ? Remplacement::accorde : Remplacement::a_demander);
+        if (copie != Copie::faite) return copie;
     }
-    if (existe)
-        Remplacer_fichier(variables.Chemin_source, variables.Chemin_cible);
-    else
-        Renommer_fichier(variables.Chemin_source, variables.Chemin_cible);
-    if (variables.Mode_resultats) return Suite::continuer;
+    if (variables.Mode_resultats) return Copie::faite;
     if (!d.curseur.Retirer()) variables.Arret_demande = true;  // nothing left to move
     variables.Index_a_reprendre = d.curseur.Index();
-    return Suite::continuer;
+    return Copie::faite;
 }
 
 Suite Deplacer_un_fichier(Deplacement & d) {
@@ -104,9 +120,9 @@ Suite Deplacer_un_fichier(Deplacement & d) {
     d.f.Arret.Visible(true);
     Application::Laisser_passer();
     const bool  meme  = Meme_unite(variables.Chemin_source, variables.Chemin_cible);
-    const Suite suite = meme ? Renommer_vers_destination(d) : Transporter(d);
+    const Copie copie = meme ? Renommer_vers_destination(d) : Transporter(d, Remplacement::a_demander);
     d.destination.Actualiser();
-    return suite;
+    return copie == Copie::arretee ? Suite::terminer : Suite::continuer;
 }
 }  // namespace
 

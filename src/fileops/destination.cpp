@@ -5,6 +5,7 @@
 #include "forms/gestion_fichiers.h"
 #include "platform/fichiers.h"
 #include "platform/systeme.h"
+#include "platform/textes.h"
 
 #include <algorithm>
 
@@ -15,8 +16,11 @@ constexpr std::uint64_t repos      = 10;   // times as long as a refresh took
 
 bool Destination::Est(const std::wstring & repertoire) {
     if (repertoire != examine_) {
-        examine_   = repertoire;
-        identique_ = Meme_repertoire(repertoire, f_.Répertoire_dest.Path());
+        const std::wstring destination = f_.Répertoire_dest.Path();
+        examine_                       = repertoire;
+        // The name alone settles it for a directory that cannot be opened.
+        identique_ =
+            Comparer_sans_casse(repertoire, destination) == 0 || Meme_repertoire(repertoire, destination);
     }
     return identique_;
 }

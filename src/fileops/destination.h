@@ -10,6 +10,7 @@ public:
     explicit Destination(Gestion_Fichiers & f) : f_(f) {}
 
     // Whether a directory is the DESTINATION, under whatever name: other case, short name, substituted drive.
+    // Of one that cannot be opened, equal names decide.
     bool Est(const std::wstring & repertoire);
 
     // Brings the list and the free space up to date: four times a second at most, more seldom where reading

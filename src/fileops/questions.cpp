@@ -1,6 +1,6 @@
 #include "fileops/questions.h"
 
-#include "app/nombres.h"
+#include "platform/nombres.h"
 
 namespace {
 

@@ -1,5 +1,6 @@
 #include "platform/textes.h"
 
+#include "platform/nombres.h"
 #include "platform/windows.h"
 
 #include <algorithm>
@@ -79,11 +80,15 @@ std::wstring Deux_chiffres(unsigned n) {
 std::string En_ansi(std::wstring_view texte) {
     if (texte.empty()) return {};
     const int taille = static_cast<int>(texte.size());
-    // Without this flag a letter of another alphabet becomes a look-alike, and a name becomes another name.
-    const DWORD strict = WC_NO_BEST_FIT_CHARS;
-    const int   besoin = WideCharToMultiByte(CP_ACP, strict, texte.data(), taille, nullptr, 0, "?", nullptr);
+    // Without this flag a letter of another alphabet becomes a look-alike, and a name becomes another name. A system whose
+    // ANSI code page is UTF-8 holds every character and refuses both the flag and the substitute.
+    const bool         utf8      = GetACP() == CP_UTF8;
+    const DWORD        strict    = utf8 ? 0U : DWORD{WC_NO_BEST_FIT_CHARS};
+    const char * const substitut = utf8 ? nullptr : "?";
+    const int          besoin =
+        WideCharToMultiByte(CP_ACP, strict, texte.data(), taille, nullptr, 0, substitut, nullptr);
     std::string octets(static_cast<std::size_t>(besoin), '\0');
-    WideCharToMultiByte(CP_ACP, strict, texte.data(), taille, octets.data(), besoin, "?", nullptr);
+    WideCharToMultiByte(CP_ACP, strict, texte.data(), taille, octets.data(), besoin, substitut, nullptr);
     return octets;
 }
 
@@ -115,15 +120,7 @@ int Comparer_sans_casse(std::wstring_view a, std::wstring_view b) {
     return ecart != 0 ? ecart : Comparer(tables.majuscule, a, b);
 }
 
-std::wstring Format_milliers(std::uint64_t n) {
-    const std::wstring separateur = Reglage(LOCALE_STHOUSAND, L" ");
-    std::wstring       texte      = std::to_wstring(n);
-    for (std::size_t place = texte.size(); place > 3;) {
-        place -= 3;
-        texte.insert(place, separateur);
-    }
-    return texte;
-}
+std::wstring Format_milliers(std::uint64_t n) { return Milliers(n, Reglage(LOCALE_STHOUSAND, L" ")); }
 
 std::wstring Format_date(std::uint64_t moment) {
     SYSTEMTIME t;

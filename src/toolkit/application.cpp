@@ -6,6 +6,7 @@
 #include "toolkit/fenetre.h"
 #include "toolkit/interne.h"
 
+#include <algorithm>
 #include <commctrl.h>
 #include <utility>
 
@@ -134,6 +135,15 @@ Sablier::Sablier() { Changer_sablier(1); }
 
 Sablier::~Sablier() { Changer_sablier(-1); }
 
+Fenetre * Devant() {
+    if (Fenetre * active = Fenetre_de_poignee(GetActiveWindow())) return active;
+    const auto & toutes = Fenetres();
+    const auto   devant = std::find_if(toutes.rbegin(), toutes.rend(), [](const Fenetre * fenetre) {
+        return fenetre->Montree() && IsWindowEnabled(fenetre->Poignee()) != FALSE;
+    });
+    return devant == toutes.rend() ? nullptr : *devant;
+}
+
 void Fin_de_session(std::function<void()> defaire) { Etat().defaire = std::move(defaire); }
 
 }  // namespace Application
@@ -142,6 +152,7 @@ void Fenetre::Show_modal(Fenetre & proprietaire) {
     proprietaire_ = &proprietaire;
     modale_       = true;
     SetWindowLongPtrW(poignee_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(proprietaire.poignee_));
+    proprietaire_actif_ = IsWindowEnabled(proprietaire.poignee_) != FALSE;
     EnableWindow(proprietaire.poignee_, FALSE);
     Show();
     MSG message;

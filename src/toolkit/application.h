@@ -46,6 +46,9 @@ public:
     Sablier & operator=(const Sablier &) = delete;
 };
 
+// The window in front: the active one, else the last one shown that takes input; null before the first.
+Fenetre * Devant();
+
 // Called when Windows shuts the session down, before the process ends: undoes what is half made. Null for nothing.
 // The process ends right after it.
 void Fin_de_session(std::function<void()> defaire);

@@ -10,16 +10,6 @@
 #include <commdlg.h>
 
 namespace {
-// The window in front: the active one, else the last one shown.
-Fenetre * Devant() {
-    if (Fenetre * active = Fenetre_de_poignee(GetActiveWindow())) return active;
-    const auto & toutes = Fenetres();
-    const auto   devant = std::find_if(toutes.rbegin(), toutes.rend(), [](const Fenetre * fenetre) {
-        return fenetre->Montree() && IsWindowEnabled(fenetre->Poignee()) != FALSE;
-    });
-    return devant == toutes.rend() ? nullptr : *devant;
-}
-
 constexpr int marge          = 150;
 constexpr int largeur_saisie = 6000;
 
@@ -56,14 +46,14 @@ std::wstring Filtre_systeme(std::wstring filtre) {
 }  // namespace
 
 int Message_boite(const std::wstring & texte, unsigned style, const std::wstring & titre) {
-    Fenetre * proprietaire = Devant();
+    Fenetre * proprietaire = Application::Devant();
     return MessageBoxW(proprietaire == nullptr ? nullptr : proprietaire->Poignee(), texte.c_str(),
                        titre.c_str(), style | MB_SETFOREGROUND);
 }
 
 std::wstring Demander_texte(const std::wstring & invite, const std::wstring & titre,
                             const std::wstring & defaut) {
-    Fenetre * proprietaire = Devant();
+    Fenetre * proprietaire = Application::Devant();
     if (proprietaire == nullptr) return {};
     const double hauteur = proprietaire->Hauteur_texte(invite, largeur_saisie - 2 * marge);
     Saisie       saisie(invite, titre, std::max(390, static_cast<int>(hauteur) + 30));
@@ -77,7 +67,7 @@ std::wstring Demander_texte(const std::wstring & invite, const std::wstring & ti
 }
 
 std::wstring Choisir_fichier(const std::wstring & titre, const std::wstring & filtre) {
-    Fenetre *          proprietaire = Devant();
+    Fenetre *          proprietaire = Application::Devant();
     const std::wstring types        = Filtre_systeme(filtre);
     std::wstring       chemin(32768, L'\0');
     OPENFILENAMEW      demande{};

@@ -147,6 +147,7 @@ std::intptr_t Controle::Recevoir(unsigned message, std::uintptr_t mot, std::intp
         }
         break;
     case WM_MOUSEMOVE:
+        if (!fenetre_.Pointeur_bouge()) break;
         if (MouseMove) MouseMove();
         if (fenetre_.MouseMove) fenetre_.MouseMove(this);
         break;

@@ -13,7 +13,8 @@
 namespace {
 DWORD Style_etiquette(Alignement alignement, bool plusieurs_lignes) {
     DWORD style = SS_NOPREFIX | SS_NOTIFY;
-    if (!plusieurs_lignes) style |= SS_ENDELLIPSIS | SS_CENTERIMAGE;
+    // Wrapped as an edit field does it: a name longer than a line is broken instead of cut.
+    style |= plusieurs_lignes ? SS_EDITCONTROL : SS_ENDELLIPSIS | SS_CENTERIMAGE;
     switch (alignement) {
     case Alignement::gauche: return style | SS_LEFT;
     case Alignement::centre: return style | SS_CENTER;

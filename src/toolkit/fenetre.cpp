@@ -37,6 +37,12 @@ HFONT Police(bool grasse) {
 }
 
 RECT Cadre_exterieur(const Fenetre & fenetre) {
+    // An icon stands far outside the screen: what counts is where the window comes back.
+    if (IsIconic(fenetre.Poignee()) != FALSE) {
+        WINDOWPLACEMENT place{};
+        place.length = sizeof place;
+        if (GetWindowPlacement(fenetre.Poignee(), &place) != FALSE) return place.rcNormalPosition;
+    }
     RECT cadre{};
     GetWindowRect(fenetre.Poignee(), &cadre);
     return cadre;
@@ -165,13 +171,25 @@ int Fenetre::Height() const {
 
 void Fenetre::Move(int left, int top, int width, int height) {
     if (IsZoomed(poignee_) != FALSE) ShowWindow(poignee_, SW_SHOWNORMAL);
-    SetWindowPos(poignee_, nullptr, Pixels(left), Pixels(top), Pixels(width), Pixels(height),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    Placer(Pixels(left), Pixels(top), Pixels(width), Pixels(height));
 }
 
 void Fenetre::Move(int left, int top) {
-    SetWindowPos(poignee_, nullptr, Pixels(left), Pixels(top), 0, 0,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOSIZE);
+    const RECT cadre = Cadre_exterieur(*this);
+    Placer(Pixels(left), Pixels(top), cadre.right - cadre.left, cadre.bottom - cadre.top);
+}
+
+void Fenetre::Placer(int x, int y, int largeur, int hauteur) {
+    if (IsIconic(poignee_) == FALSE) {
+        SetWindowPos(poignee_, nullptr, x, y, largeur, hauteur, SWP_NOZORDER | SWP_NOACTIVATE);
+        return;
+    }
+    // An icon stays one; the window comes back at this place.
+    WINDOWPLACEMENT place{};
+    place.length           = sizeof place;
+    place.showCmd          = montree_ ? SW_SHOWMINNOACTIVE : SW_HIDE;
+    place.rcNormalPosition = {x, y, x + largeur, y + hauteur};
+    SetWindowPlacement(poignee_, &place);
 }
 
 Etat_fenetre Fenetre::WindowState() const {
@@ -206,7 +224,8 @@ void Fenetre::Show() {
 void Fenetre::Hide() {
     montree_ = false;
     // The owner must be usable before this window goes, or another program comes to the front.
-    if (modale_ && proprietaire_ != nullptr) EnableWindow(proprietaire_->poignee_, TRUE);
+    if (modale_ && proprietaire_ != nullptr)
+        EnableWindow(proprietaire_->poignee_, proprietaire_actif_ ? TRUE : FALSE);
     ShowWindow(poignee_, SW_HIDE);
     if (modale_ && proprietaire_ != nullptr) SetActiveWindow(proprietaire_->poignee_);
     modale_ = false;
@@ -246,7 +265,7 @@ double Fenetre::Hauteur_texte(std::wstring_view texte, int largeur) const {
     const HGDIOBJ avant  = SelectObject(dessin, police_);
     RECT          place{0, 0, Pixels(largeur), 0};
     DrawTextW(dessin, texte.data(), static_cast<int>(texte.size()), &place,
-              DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+              DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX | DT_EDITCONTROL);
     SelectObject(dessin, avant);
     ReleaseDC(poignee_, dessin);
     return place.bottom * 1440.0 / Resolution();

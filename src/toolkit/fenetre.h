@@ -77,12 +77,14 @@ private:
     std::intptr_t Colorer(void * dessin, Poignee_fenetre poignee);
     void          Activer(bool active);
     void          Survoler();
+    bool          Pointeur_bouge();
     void          Notifier(Poignee_fenetre poignee, unsigned code);
     void          Finir_session();
     void          Peripherique_change();
     void          Demande_fermeture();
     bool          Touche_acces(wchar_t lettre);
     void          Passer_focus();
+    void          Placer(int x, int y, int largeur, int hauteur);  // screen pixels
     void          Premier_focus();
 
     std::wstring            nom_;
@@ -97,4 +99,6 @@ private:
     bool                    modale_       = false;
     bool                    montree_      = false;
     Fenetre *               proprietaire_ = nullptr;
+    int  dernier_x_ = -1, dernier_y_ = -1;  // pointer at the last move treated, screen pixels
+    bool proprietaire_actif_ = true;        // as found when the modal showing began
 };

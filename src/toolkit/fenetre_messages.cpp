@@ -42,8 +42,17 @@ void Fenetre::Activer(bool active) {
     if (Activate) Activate();
 }
 
+// The system tells of a move when a window changes under a pointer that rests.
+bool Fenetre::Pointeur_bouge() {
+    POINT point{};
+    GetCursorPos(&point);
+    if (point.x == dernier_x_ && point.y == dernier_y_) return false;
+    dernier_x_ = point.x, dernier_y_ = point.y;
+    return true;
+}
+
 void Fenetre::Survoler() {
-    if (!MouseMove) return;
+    if (!MouseMove || !Pointeur_bouge()) return;
     POINT point{};
     GetCursorPos(&point);
     ScreenToClient(poignee_, &point);

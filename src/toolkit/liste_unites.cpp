@@ -6,12 +6,23 @@
 
 #include <algorithm>
 
+namespace {
+// Where a program started from no drive begins: the first that needs no medium.
+int Premier_disque() {
+    const std::vector<Unite> unites = Unites_presentes();
+    const auto               disque = std::find_if(unites.begin(), unites.end(),
+                                                   [](const Unite & u) { return u.genre == Genre_unite::fixe; });
+    return disque == unites.end() ? 0 : static_cast<int>(disque - unites.begin());
+}
+}  // namespace
+
 Liste_unites::Liste_unites(Fenetre & fenetre, const Place & place) : Liste_combinee(fenetre, place, false) {
     Relire();
     const std::wstring courant = Repertoire_courant();
     const int          rang    = courant.empty() ? -1 : Rang(courant.front());
-    if (!entrees_.empty()) drive_ = entrees_[rang >= 0 ? static_cast<std::size_t>(rang) : 0U];
-    Choisir_en_silence(std::max(rang, 0));
+    const int          choisi  = rang >= 0 ? rang : Premier_disque();
+    if (!entrees_.empty()) drive_ = entrees_[static_cast<std::size_t>(choisi)];
+    Choisir_en_silence(choisi);
 }
 
 int Liste_unites::Rang(wchar_t lettre) const {

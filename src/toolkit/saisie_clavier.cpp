@@ -70,9 +70,11 @@ bool Saisie_clavier::Caractere(MSG & message, Controle * controle) {
 bool Saisie_clavier::Reservee(const MSG & message, Bouton_commande & bouton) {
     if (Est_souris(message.message)) return message.hwnd != bouton.Poignee();
     if (Est_souris_cadre(message.message)) {
-        // Dragging the frame, or its menu, would hold the command up as long as it lasts.
-        const bool gauche = message.message == WM_NCLBUTTONDOWN || message.message == WM_NCLBUTTONUP;
-        return !gauche || (message.wParam != HTMINBUTTON && message.wParam != HTCLOSE);
+        // The frame's own loops (dragging, menu, a button held down) would hold the command up as long as they last.
+        if (message.message == WM_NCLBUTTONDOWN && message.wParam == HTMINBUTTON) {
+            PostMessageW(message.hwnd, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+        }
+        return true;
     }
     if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
     if (message.message == WM_KEYDOWN) {

@@ -141,6 +141,19 @@ TEST_F(Aide, chaque_texte_est_celui_de_son_element) {
     }
 }
 
+TEST_F(Aide, une_fenetre_qui_se_ferme_laisse_le_rappel_dans_le_panneau) {
+    Lancer();
+    Frapper(VK_F1);
+    ATTENDRE(Lire(L"Fenêtre") == introduction);
+    Pilote::Alt(L'k');
+    EXIGER(Fenetre(L"Apropos") && GetForegroundWindow() == Fenetre(L"Apropos"));
+    Frapper(VK_RETURN);
+    ATTENDRE(!Fenetre(L"Apropos"));
+    ATTENDRE(Lire(L"Fenêtre") ==
+             L"  Cliquez sur un élément de la fenêtre de KORVANE ou bien cliquez sur le point "
+             L"d'interrogation ou appuyez sur la touche F1 pour arrêter l'aide.");
+}
+
 TEST_F(Aide, sans_aide_le_pointeur_ne_change_rien) {
     Lancer();
     const int normale = Hauteur();

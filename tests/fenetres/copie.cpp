@@ -139,6 +139,38 @@ TEST_F(Copie, plusieurs_fichiers_se_confirment_par_oui_non_ou_annuler) {
     EXPECT_EQ(Taille_fichier(Destination(L"b.txt")), 300u);
 }
 
+TEST_F(Copie, l_invite_montre_en_entier_un_nom_plus_long_qu_une_ligne) {
+    const std::wstring nom = std::wstring(200, L'w') + L".dat";
+    Creer_source(nom, 10);
+    Lancer_vers(L"");
+    Choisir_un(nom);
+    Commencer(L"Copier");
+    EXIGER(Fenetre(L"Saisie"));
+    const RECT invite = Place_ecran(Controle(L"Saisie", L"Invite"));
+    // Two hundred wide letters take more than four lines of some thirteen pixels.
+    EXPECT_GE(invite.bottom - invite.top, 4 * 13);
+    EXPECT_GE(Place_ecran(Controle(L"Saisie", L"Texte")).top, invite.bottom);
+    Frapper(VK_ESCAPE);
+    Attendre_fin_commande();
+}
+
+TEST_F(Copie, une_fenetre_reduite_pose_ses_questions_sur_l_ecran) {
+    Creer_source(L"a.txt", 10);
+    Lancer_vers(L"");
+    Choisir_un(L"a.txt");
+    ShowWindow(Principale(), SW_MINIMIZE);
+    ATTENDRE(IsIconic(Principale()));
+    PostMessageW(Controle(L"Copier"), BM_CLICK, 0, 0);
+    EXIGER(Fenetre(L"Saisie"));
+    const RECT place = Place_ecran(Fenetre(L"Saisie"));
+    EXPECT_GE(place.left, 0);
+    EXPECT_GE(place.top, 0);
+    PostMessageW(Controle(L"Saisie", L"Annuler"), BM_CLICK, 0, 0);
+    ATTENDRE(!Fenetre(L"Saisie"));
+    ShowWindow(Principale(), SW_RESTORE);
+    Attendre_fin_commande();
+}
+
 TEST_F(Copie, dans_son_propre_repertoire_chaque_fichier_recoit_le_nom_demande) {
     Creer_source(L"a.txt", 40000, 1);
     Creer_source(L"été.txt", 200, 2);
@@ -235,6 +267,7 @@ TEST_F(Copie, la_jauge_avance_et_l_arret_ne_laisse_rien_de_la_copie) {
     Commencer(L"Copier");
     Attendre_commencee();
     ATTENDRE(Se_voit(L"Jauge"));
+    EXPECT_NE(Utf8(Lire(L"Jauge")), "") << "la jauge porte son texte dès qu'elle se voit";
     ATTENDRE(!Lire(L"Jauge").empty() && Lire(L"Jauge") != L"0%");
     EXPECT_TRUE(Sablier());
     EXPECT_TRUE(Existe(Destination(L"longue.dat")));

@@ -1,4 +1,5 @@
 #include "fenetres/commandes.h"
+#include "fenetres/systeme_hote.h"
 
 #include <vector>
 
@@ -121,6 +122,19 @@ TEST_F(Deplacement, un_fichier_en_lecture_seule_ne_se_remplace_pas) {
     EXPECT_EQ(Differences(avant_la_bas, Lire_arbre(destination)), "");
 }
 
+TEST_F(Deplacement, un_repertoire_du_meme_nom_ne_se_remplace_pas) {
+    Creer_cinq();
+    Creer_destination(L"b.txt\\dedans.txt", 7);
+    const auto avant = Lire_arbre(source), avant_la_bas = Lire_arbre(destination);
+    Lancer_dans_les_dossiers();
+    Choisir({L"b.txt", L"c.txt"});
+    Cliquer(L"Déplacer");
+    Attendre_protege(L"B.TXT");
+    Verifier_repos(L"Déplacer");
+    Verifier_source_intacte(avant);
+    EXPECT_EQ(Differences(avant_la_bas, Lire_arbre(destination)), "");
+}
+
 TEST_F(Deplacement, confirme_et_sans_remplacement_demande) {
     Regler(L"Options", L"Confirme", L"Oui");
     Regler(L"Options", L"Remplace", L"Non");
@@ -157,6 +171,20 @@ TEST_F(Deplacement, dans_son_propre_repertoire_par_une_autre_unite_rien_n_est_de
     Ouvrir(L"srce", source);
     Choisir_tout();
     Cliquer(L"Déplacer");
+    Attendre_boite(L"DEPLACER", sur_lui_meme, avertissement, IDOK);
+    Verifier_repos(L"Déplacer");
+    Verifier_source_intacte(avant);
+}
+
+TEST_F(Deplacement, dans_son_propre_repertoire_devenu_inaccessible_rien_n_est_deplace) {
+    Creer_cinq();
+    const auto avant = Lire_arbre(source);
+    Lancer_vers(L"");
+    Choisir({L"a.txt", L"b.txt"});
+    ASSERT_TRUE(Sur_hote(dossier.Chemin(), L"mv source ailleurs"));
+    Cliquer(L"Déplacer");
+    ATTENDRE(!Boite_absente());
+    ASSERT_TRUE(Sur_hote(dossier.Chemin(), L"mv ailleurs source"));
     Attendre_boite(L"DEPLACER", sur_lui_meme, avertissement, IDOK);
     Verifier_repos(L"Déplacer");
     Verifier_source_intacte(avant);
@@ -265,4 +293,26 @@ TEST_F(Deplacement_D, sur_une_unite_pleine_un_deplacement_interne_ne_demande_rie
     Verifier_repos(L"Déplacer");
     EXPECT_TRUE(Noms(L"D:\\de").empty());
     EXPECT_EQ(Taille_fichier(L"D:\\vers\\a.dat"), 500000u);
+}
+
+// One letter may lead to two volumes: the second disk stands for the DESTINATION directory.
+TEST_F(Deplacement_D, vers_un_autre_volume_de_la_meme_unite_la_copie_remplace_le_renommage) {
+    Creer_cinq();
+    const auto avant = Lire_arbre(source);
+    ASSERT_TRUE(
+        Sur_hote(dossier.Chemin(), L"rmdir destination && ln -s \"$WINEPREFIX/dosdevices/d:\" destination"));
+    Creer_fichier_graine(L"D:\\c.txt", 7, 9);
+    Lancer_dans_les_dossiers();
+    Choisir({L"b.txt", L"c.txt"});
+    Cliquer(L"Déplacer");
+    Attendre_remplacement(L"DEPLACER", L"C.TXT", destination, IDYES);
+    Attendre_fin_commande();
+    EXPECT_EQ(Noms(source), (Noms_fichiers{L"a.txt", L"d.txt", L"e.txt"}));
+    EXPECT_EQ(Noms(L"D:"), (Noms_fichiers{L"b.txt", L"c.txt"}));
+    for (const wchar_t * nom : {L"b.txt", L"c.txt"}) {
+        EXPECT_EQ(Empreinte(std::wstring(L"D:\\") + nom), avant.at(std::wstring(L"\\") + nom).empreinte)
+            << Utf8(nom);
+    }
+    Fermer();
+    EXPECT_TRUE(Sur_hote(dossier.Chemin(), L"rm destination"));
 }

@@ -91,6 +91,10 @@ TEST_F(Fin, a_propos_est_une_fenetre_modale_que_ferment_ok_et_echappement) {
         EXPECT_EQ(Texte(Controle(L"Apropos", L"Produit")), L"KORVANE");
         EXPECT_EQ(Texte(Controle(L"Apropos", L"Description")), L"Gestionnaire de fichiers");
         EXPECT_FALSE(Active(Principale()));
+        // Over the middle of the main window, although the banner was an icon.
+        const RECT devant = Place_ecran(Fenetre(L"Apropos")), derriere = Place_ecran(Principale());
+        EXPECT_NEAR(devant.left + devant.right, derriere.left + derriere.right, 4);
+        EXPECT_NEAR(devant.top + devant.bottom, derriere.top + derriere.bottom, 4);
         ATTENDRE(Focus(Fenetre(L"Apropos")) == Controle(L"Apropos", L"OK"));
         if (par_bouton)
             Pilote::Cliquer(Controle(L"Apropos", L"OK"));

@@ -1,4 +1,4 @@
-#include "app/nombres.h"
+#include "platform/nombres.h"
 
 #include "fuzz/texte_libre.h"
 

@@ -5,10 +5,10 @@
 // titre, defaut, invite, saisie, filtre. The main window stands at 1500, 1500 twips until it is moved.
 #include "app/dialogue.h"
 #include "app/fenetres.h"
-#include "app/nombres.h"
 #include "app/settings.h"
 #include "forms/dialogue.h"
 #include "forms/gestion_fichiers.h"
+#include "platform/nombres.h"
 #include "platform/windows.h"
 #include "toolkit/application.h"
 #include "toolkit/boites.h"

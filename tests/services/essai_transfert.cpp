@@ -2,6 +2,8 @@
 #include "platform/transfert.h"
 #include "services/banc.h"
 
+#include <cstdint>
+
 namespace {
 
 class Transferts : public Banc {};
@@ -17,6 +19,21 @@ void Copier(const std::wstring & source, const std::wstring & cible, bool durabl
     transfert.Creer_cible(cible);
     Blocs(transfert);
     transfert.Terminer(durable);
+}
+
+void Dater(const std::wstring & chemin, std::uint64_t moment) {
+    const FILETIME        date = {static_cast<DWORD>(moment), static_cast<DWORD>(moment >> 32)};
+    const Poignee_fichier fichier(
+        CreateFileW(chemin.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    EXPECT_TRUE(SetFileTime(fichier.Valeur(), nullptr, nullptr, &date)) << GetLastError();
+}
+
+// As another program writes to a file that is being copied.
+Poignee_fichier Ouvrir_a_cote(const std::wstring & chemin) {
+    Poignee_fichier fichier(CreateFileW(chemin.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                        nullptr, OPEN_EXISTING, 0, nullptr));
+    EXPECT_TRUE(fichier.Valide()) << GetLastError();
+    return fichier;
 }
 
 TEST_F(Transferts, chaque_longueur_se_copie_en_blocs_de_8192_octets) {
@@ -150,8 +167,94 @@ TEST_F(Transferts, une_source_qui_grandit_est_copiee_jusqu_a_sa_fin) {
     ASSERT_TRUE(ajout.Valide());
     DWORD ecrits = 0;
     WriteFile(ajout.Valeur(), "la suite", 8, &ecrits, nullptr);
-    transfert.Terminer(true);
+    transfert.Terminer(false);
     EXPECT_TRUE(Octets_varies(100000) + "la suite" == Contenu(Chemin(L"cible")));
+}
+
+TEST_F(Transferts, une_source_reecrite_pendant_la_copie_fait_echouer_la_seule_copie_durable) {
+    for (const bool durable : {false, true}) {
+        const std::wstring source = Fichier(L"source", Octets_varies(100000));
+        Dater(source, 126000000000000000);
+        const std::wstring cible = Chemin(durable ? L"durable" : L"simple");
+        Transfert          transfert(source);
+        transfert.Creer_cible(cible, durable);
+        Blocs(transfert);
+        const Poignee_fichier autre  = Ouvrir_a_cote(source);
+        DWORD                 ecrits = 0;
+        ASSERT_TRUE(WriteFile(autre.Valeur(), "autre", 5, &ecrits, nullptr));
+        EXPECT_EQ(durable ? 57 : 0, Numero_leve([&] { transfert.Terminer(durable); }));
+        EXPECT_EQ(!durable, Present(cible));
+        EXPECT_TRUE("autre" + Octets_varies(100000).substr(5) == Contenu(source));
+    }
+}
+
+TEST_F(Transferts, une_source_raccourcie_pendant_la_copie_ne_donne_jamais_une_copie_courte) {
+    for (const bool durable : {false, true}) {
+        const std::wstring source = Fichier(L"source", Octets_varies(100000));
+        Transfert          transfert(source);
+        transfert.Creer_cible(Chemin(L"cible"), durable);
+        EXPECT_TRUE(transfert.Bloc());
+        const Poignee_fichier autre = Ouvrir_a_cote(source);
+        SetFilePointer(autre.Valeur(), 70000, nullptr, FILE_BEGIN);
+        ASSERT_TRUE(SetEndOfFile(autre.Valeur()));
+        EXPECT_EQ(57, Numero_leve([&] { transfert.Terminer(durable); })) << durable;
+        EXPECT_FALSE(Present(Chemin(L"cible"))) << durable;
+        EXPECT_TRUE(Octets_varies(100000).substr(0, 70000) == Contenu(source)) << durable;
+    }
+}
+
+// A medium that refuses some dates, and attributes if it is told so.
+struct Support {
+    std::int64_t  premiere_date;
+    bool          attributs_refuses;
+    std::int64_t  date      = -1;
+    std::uint32_t attributs = 0;
+
+    bool Poser(std::int64_t date_demandee, std::uint32_t attributs_demandes) {
+        if (date_demandee != 0 && date_demandee < premiere_date) return false;
+        if (attributs_refuses && attributs_demandes != 0) return false;
+        date      = date_demandee;
+        attributs = attributs_demandes;
+        return true;
+    }
+};
+
+TEST_F(Transferts, ce_qu_un_support_refuse_de_la_date_et_des_attributs_est_laisse) {
+    constexpr std::int64_t  annee_1980 = 119600064000000000;
+    constexpr std::int64_t  jamais     = INT64_MAX;
+    constexpr std::uint32_t cache      = Attribut::cache;
+    const struct {
+        std::int64_t  voulue, premiere;
+        bool          refus;
+        std::int64_t  date;
+        std::uint32_t attributs;
+    } lignes[] = {{annee_1980 - 1, 1, false, annee_1980 - 1, cache},
+                  {annee_1980 - 1, annee_1980, false, annee_1980, cache},
+                  {annee_1980 + 9, annee_1980, false, annee_1980 + 9, cache},
+                  {annee_1980 - 1, jamais, false, 0, cache},
+                  {annee_1980 + 9, jamais, false, 0, cache},
+                  {annee_1980 + 9, 1, true, -1, 0}};
+    for (const auto & ligne : lignes) {
+        Support support{ligne.premiere, ligne.refus};
+        Poser_au_mieux(ligne.voulue, cache,
+                       [&](auto date, auto attributs) { return support.Poser(date, attributs); });
+        EXPECT_EQ(ligne.date, support.date) << ligne.voulue << " " << ligne.premiere;
+        EXPECT_EQ(ligne.attributs, support.attributs) << ligne.voulue << " " << ligne.premiere;
+    }
+}
+
+TEST_F(Transferts, ce_qui_s_ecrit_entre_deux_vidages_suit_leur_duree) {
+    constexpr std::uint64_t ko = 1024;
+    const struct {
+        std::uint64_t avant;
+        double        duree;
+        std::uint64_t apres;
+    } lignes[] = {{256 * ko, 0.051, 128 * ko},   {64 * ko, 3.0, 64 * ko},     {256 * ko, 0.009, 512 * ko},
+                  {8192 * ko, 0.001, 8192 * ko}, {256 * ko, 0.010, 256 * ko}, {256 * ko, 0.050, 256 * ko}};
+    for (const auto & ligne : lignes) {
+        EXPECT_EQ(ligne.apres, Intervalle_suivant(ligne.avant, ligne.duree))
+            << ligne.avant << " " << ligne.duree;
+    }
 }
 
 TEST_F(Transferts, une_source_qui_change_apres_sa_fin_fait_echouer_la_copie_durable) {
