@@ -34,7 +34,7 @@ Panneau Destination(Gestion_Fichiers & f) {
 void Remettre_unite(const Panneau & p) { p.unite.Drive_sans_evenement(p.repertoire.Path()); }
 
 void Suivre_repertoire(const Panneau & p) {
-    p.fichiers.Path(p.repertoire.Path());
+    p.fichiers.Suivre(p.repertoire.Path(), p.repertoire.Prendre_fichiers());
     p.chemin.Text(p.repertoire.Path());
 }
 

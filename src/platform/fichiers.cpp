@@ -44,26 +44,32 @@ bool Vide(DWORD code, const std::wstring & repertoire) {
 
 }  // namespace
 
-std::vector<Entree_repertoire> Lister(const std::wstring & repertoire, bool repertoires) {
-    const std::wstring             filtre = Filtre_de_tout(repertoire);
-    std::vector<Entree_repertoire> entrees;
-    WIN32_FIND_DATAW               trouve;
-    const Poignee_recherche        recherche(FindFirstFileExW(
-               filtre.c_str(), FindExInfoBasic, &trouve, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
+Contenu_repertoire Lire_repertoire(const std::wstring & repertoire) {
+    const std::wstring      filtre = Filtre_de_tout(repertoire);
+    Contenu_repertoire      contenu;
+    WIN32_FIND_DATAW        trouve;
+    const Poignee_recherche recherche(FindFirstFileExW(
+        filtre.c_str(), FindExInfoBasic, &trouve, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
     if (!recherche.Valide()) {
         const DWORD code = GetLastError();
-        if (Vide(code, repertoire)) return entrees;
+        if (Vide(code, repertoire)) return contenu;
         Lever_code(Fichier_existe(repertoire) ? ERROR_DIRECTORY : code, Acte::lister, repertoire);
     }
     do {
         const bool est_repertoire = (trouve.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        if (est_repertoire != repertoires || (repertoires && Point_ou_deux(trouve.cFileName))) continue;
-        entrees.push_back({std::wstring(trouve.cFileName), En_64(trouve.nFileSizeHigh, trouve.nFileSizeLow),
-                           En_64(trouve.ftLastWriteTime.dwHighDateTime, trouve.ftLastWriteTime.dwLowDateTime),
-                           trouve.dwFileAttributes});
+        if (est_repertoire && Point_ou_deux(trouve.cFileName)) continue;
+        (est_repertoire ? contenu.repertoires : contenu.fichiers)
+            .push_back({std::wstring(trouve.cFileName), En_64(trouve.nFileSizeHigh, trouve.nFileSizeLow),
+                        En_64(trouve.ftLastWriteTime.dwHighDateTime, trouve.ftLastWriteTime.dwLowDateTime),
+                        trouve.dwFileAttributes});
     } while (FindNextFileW(recherche.Valeur(), &trouve));
     if (GetLastError() != ERROR_NO_MORE_FILES) Lever_derniere_erreur(Acte::lister, repertoire);
-    return entrees;
+    return contenu;
+}
+
+std::vector<Entree_repertoire> Lister(const std::wstring & repertoire, bool repertoires) {
+    Contenu_repertoire contenu = Lire_repertoire(repertoire);
+    return std::move(repertoires ? contenu.repertoires : contenu.fichiers);
 }
 
 bool Fichier_existe(const std::wstring & chemin) {

@@ -23,8 +23,15 @@ struct Entree_repertoire {
     std::uint32_t attributs = 0;
 };
 
-// What one directory holds, "." and ".." left out, in the order of the system, one enumeration of the disk.
-// `repertoires` chooses directories or files. Errors 76 (no such directory), 70 (cannot be read), 71, 68.
+struct Contenu_repertoire {
+    std::vector<Entree_repertoire> repertoires;
+    std::vector<Entree_repertoire> fichiers;
+};
+
+// What one directory holds, "." and ".." left out, in the order of the system, by one enumeration of the disk.
+// Errors 76 (no such directory), 70 (cannot be read), 71, 68.
+Contenu_repertoire Lire_repertoire(const std::wstring & repertoire);
+// The same for directories alone or files alone.
 std::vector<Entree_repertoire> Lister(const std::wstring & repertoire, bool repertoires);
 
 std::wstring Forme_longue(const std::wstring & chemin);  // with "\\?\" where the path needs it

@@ -44,17 +44,28 @@ bool Memes_noms(const std::vector<Entree_repertoire> & a, const std::vector<Entr
 
 Liste_fichiers::Liste_fichiers(Fenetre & fenetre, const Place & place) : Liste(fenetre, place, true) {}
 
-std::vector<Entree_repertoire> Liste_fichiers::Filtrer(const std::wstring & chemin,
-                                                       const std::wstring & motif) const {
-    if (!Motifs::Valide(motif)) throw Erreur_execution(Numero::valeur_incorrecte, 0, motif);
-    std::vector<Entree_repertoire> entrees = Lister(chemin, false);
-    const Motifs                   motifs(motif, Majuscule);
+std::vector<Entree_repertoire> Liste_fichiers::Filtrer(std::vector<Entree_repertoire> entrees,
+                                                       const std::wstring &           motif) const {
+    const Motifs        motifs(motif, Majuscule);
     const std::uint32_t exclus = (caches_ ? 0U : Attribut::cache) | (systeme_ ? 0U : Attribut::systeme);
     std::erase_if(entrees, [&](const Entree_repertoire & entree) {
         return (entree.attributs & exclus) != 0 || !(motifs.Tout() || motifs.Accepte(entree.nom));
     });
     Trier(entrees);
     return entrees;
+}
+
+std::vector<Entree_repertoire> Liste_fichiers::Lire(const std::wstring & chemin,
+                                                    const std::wstring & motif) const {
+    if (!Motifs::Valide(motif)) throw Erreur_execution(Numero::valeur_incorrecte, 0, motif);
+    return Filtrer(Lister(chemin, false), motif);
+}
+
+void Liste_fichiers::Suivre(const std::wstring & chemin, std::vector<Entree_repertoire> fichiers) {
+    if (Comparer_sans_casse(chemin, path_) == 0) return;
+    path_ = chemin;
+    Montrer(Filtrer(std::move(fichiers), pattern_));
+    if (PathChange) PathChange();
 }
 
 void Liste_fichiers::Montrer(std::vector<Entree_repertoire> entrees) {
@@ -66,7 +77,7 @@ void Liste_fichiers::Montrer(std::vector<Entree_repertoire> entrees) {
 }
 
 void Liste_fichiers::Relire(const std::wstring & chemin, const std::wstring & motif) {
-    std::vector<Entree_repertoire> entrees = Filtrer(chemin, motif);
+    std::vector<Entree_repertoire> entrees = Lire(chemin, motif);
     const bool                     change  = Comparer_sans_casse(chemin, path_) != 0;
     path_                                  = chemin;
     pattern_                               = motif;
@@ -96,7 +107,7 @@ void Liste_fichiers::System(bool montrer) {
 
 void Liste_fichiers::Refresh() {
     if (path_.empty()) return;
-    std::vector<Entree_repertoire> entrees = Filtrer(path_, pattern_);
+    std::vector<Entree_repertoire> entrees = Lire(path_, pattern_);
     if (Memes_noms(entrees, entrees_)) {
         entrees_ = std::move(entrees);
         return;

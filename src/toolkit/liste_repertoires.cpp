@@ -25,9 +25,10 @@ std::wstring Resoudre(const std::wstring & texte) {
     return Repertoire_existe(courant) ? courant : texte.substr(0, 2) + L"\\";
 }
 
-std::vector<std::wstring> Sous_repertoires(const std::wstring & chemin) {
+std::vector<std::wstring> Noms_tries(std::vector<Entree_repertoire> & repertoires) {
     std::vector<std::wstring> noms;
-    for (Entree_repertoire & entree : Lister(chemin, true)) noms.push_back(std::move(entree.nom));
+    noms.reserve(repertoires.size());
+    for (Entree_repertoire & entree : repertoires) noms.push_back(std::move(entree.nom));
     std::sort(noms.begin(), noms.end(),
               [](const std::wstring & a, const std::wstring & b) { return Comparer_sans_casse(a, b) < 0; });
     return noms;
@@ -76,17 +77,20 @@ Liste_repertoires::Liste_repertoires(Fenetre & fenetre, const Place & place)
 void Liste_repertoires::Path(const std::wstring & chemin) {
     const std::wstring complet = Sans_barre_finale(Resoudre(chemin));
     if (!path_.empty() && Comparer_sans_casse(complet, path_) == 0) return;
-    std::vector<std::wstring> noms = Sous_repertoires(complet);
-    path_                          = Nom_sur_disque(complet);
-    chaine_                        = Chaine(path_);
-    sous_repertoires_              = std::move(noms);
+    Contenu_repertoire contenu = Lire_repertoire(complet);
+    path_                      = Nom_sur_disque(complet);
+    chaine_                    = Chaine(path_);
+    sous_repertoires_          = Noms_tries(contenu.repertoires);
+    fichiers_                  = std::move(contenu.fichiers);
     Montrer(-1);
     if (Change) Change();
+    fichiers_ = {};  // whoever follows has taken them; later they would be out of date
 }
 
 void Liste_repertoires::Refresh() {
     if (path_.empty()) return;
-    std::vector<std::wstring> noms = Sous_repertoires(path_);
+    Contenu_repertoire        contenu = Lire_repertoire(path_);
+    std::vector<std::wstring> noms    = Noms_tries(contenu.repertoires);
     if (noms == sous_repertoires_) return;
     const int          index = ListIndex();
     const std::wstring choisi =

@@ -43,6 +43,9 @@ public:
     std::wstring List(int index) const;  // full path
     void         Refresh() override;     // reads the disk again; raises nothing, throws as Path does
 
+    // The files met while the directory was read; only a handler of Change finds them, so that they are not read twice.
+    std::vector<Entree_repertoire> Prendre_fichiers() { return std::move(fichiers_); }
+
     std::function<void()> Change;
 
 protected:
@@ -58,9 +61,10 @@ private:
 
     bool pressee_ = false;  // the mouse button went down in this list
 
-    std::wstring              path_;
-    std::vector<std::wstring> chaine_;            // root, ..., open directory
-    std::vector<std::wstring> sous_repertoires_;  // names
+    std::wstring                   path_;
+    std::vector<std::wstring>      chaine_;            // root, ..., open directory
+    std::vector<std::wstring>      sous_repertoires_;  // names
+    std::vector<Entree_repertoire> fichiers_;
 };
 
 // The files of one directory that match a pattern.
@@ -80,6 +84,8 @@ public:
         override;  // keeps path, selection of the names that still exist and the current entry; raises nothing
     // Directory and pattern at once, one reading of the disk; raises PathChange when the path differs.
     void Relire(const std::wstring & chemin, const std::wstring & motif);
+    // Another directory, whose files have just been read.
+    void Suivre(const std::wstring & chemin, std::vector<Entree_repertoire> fichiers);
 
     // The listing behind the list, in its order: names, sizes, dates and attributes as they were read.
     const std::vector<Entree_repertoire> & Entrees() const { return entrees_; }
@@ -87,7 +93,9 @@ public:
     std::function<void()> PathChange;
 
 private:
-    std::vector<Entree_repertoire> Filtrer(const std::wstring & chemin, const std::wstring & motif) const;
+    std::vector<Entree_repertoire> Filtrer(std::vector<Entree_repertoire> entrees,
+                                           const std::wstring &           motif) const;
+    std::vector<Entree_repertoire> Lire(const std::wstring & chemin, const std::wstring & motif) const;
     void                           Montrer(std::vector<Entree_repertoire> entrees);
 
     std::wstring                   path_;
