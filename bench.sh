@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source outils/wine.sh
 
-./outils/installer.sh essais
+./outils/installer.sh construire executer essais
 cmake --preset windows-x64 >build/banc-configuration.txt 2>&1 || { cat build/banc-configuration.txt; exit 1; }
 cmake --build --preset windows-x64 --target KORVANE banc gardien
 
