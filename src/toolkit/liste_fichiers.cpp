@@ -7,8 +7,12 @@
 #include <algorithm>
 #include <numeric>
 #include <string_view>
+#include <utility>
 
 namespace {
+constexpr std::uint32_t attributs_montrables =
+    Attribut::cache | Attribut::systeme | Attribut::modifie | Attribut::lecture;
+
 // Sorts by name without regard to case; names that differ by their case alone keep an order of their own. The folded names
 // stand in one block: folding two names at each comparison costs more than all the rest of the listing.
 void Trier(std::vector<Entree_repertoire> & entrees) {
@@ -46,10 +50,12 @@ Liste_fichiers::Liste_fichiers(Fenetre & fenetre, const Place & place) : Liste(f
 
 std::vector<Entree_repertoire> Liste_fichiers::Filtrer(std::vector<Entree_repertoire> entrees,
                                                        const std::wstring &           motif) const {
-    const Motifs        motifs(motif, Majuscule);
-    const std::uint32_t exclus = (caches_ ? 0U : Attribut::cache) | (systeme_ ? 0U : Attribut::systeme);
+    const Motifs motifs(motif, Majuscule);
     std::erase_if(entrees, [&](const Entree_repertoire & entree) {
-        return (entree.attributs & exclus) != 0 || !(motifs.Tout() || motifs.Accepte(entree.nom));
+        if ((entree.attributs & exclus_) != 0 ||
+            (!normaux_ && (entree.attributs & attributs_montrables) == 0))
+            return true;
+        return !motifs.Tout() && !motifs.Accepte(entree.nom);
     });
     Trier(entrees);
     return entrees;
@@ -93,16 +99,13 @@ void Liste_fichiers::Path(const std::wstring & chemin) {
 
 void Liste_fichiers::Pattern(const std::wstring & motif) { Relire(path_, motif); }
 
-void Liste_fichiers::Hidden(bool montrer) {
-    if (montrer == caches_) return;
-    caches_ = montrer;
-    Refresh();
+void Liste_fichiers::Montrer_attribut(std::uint32_t attribut, bool montrer) {
+    const std::uint32_t voulus = montrer ? exclus_ & ~attribut : exclus_ | attribut;
+    if (std::exchange(exclus_, voulus) != voulus) Refresh();
 }
 
-void Liste_fichiers::System(bool montrer) {
-    if (montrer == systeme_) return;
-    systeme_ = montrer;
-    Refresh();
+void Liste_fichiers::Normal(bool montrer) {
+    if (std::exchange(normaux_, montrer) != montrer) Refresh();
 }
 
 void Liste_fichiers::Refresh() {

@@ -76,11 +76,18 @@ public:
     void                 Path(const std::wstring & chemin);  // raises PathChange when it differs
     const std::wstring & Pattern() const { return pattern_; }
     void                 Pattern(const std::wstring & motif);  // error 380 leaves the old one
-    bool                 Hidden() const { return caches_; }
-    void                 Hidden(bool montrer);
-    bool                 System() const { return systeme_; }
-    void                 System(bool montrer);
-    void                 Refresh()
+    // Whether files with that attribute are shown; Normal: those with none of the four. Hidden and System are False at start.
+    bool Hidden() const { return (exclus_ & Attribut::cache) == 0; }
+    void Hidden(bool montrer) { Montrer_attribut(Attribut::cache, montrer); }
+    bool System() const { return (exclus_ & Attribut::systeme) == 0; }
+    void System(bool montrer) { Montrer_attribut(Attribut::systeme, montrer); }
+    bool Archive() const { return (exclus_ & Attribut::modifie) == 0; }
+    void Archive(bool montrer) { Montrer_attribut(Attribut::modifie, montrer); }
+    bool ReadOnly() const { return (exclus_ & Attribut::lecture) == 0; }
+    void ReadOnly(bool montrer) { Montrer_attribut(Attribut::lecture, montrer); }
+    bool Normal() const { return normaux_; }
+    void Normal(bool montrer);
+    void Refresh()
         override;  // keeps path, selection of the names that still exist and the current entry; raises nothing
     // Directory and pattern at once, one reading of the disk; raises PathChange when the path differs.
     void Relire(const std::wstring & chemin, const std::wstring & motif);
@@ -97,10 +104,11 @@ private:
                                            const std::wstring &           motif) const;
     std::vector<Entree_repertoire> Lire(const std::wstring & chemin, const std::wstring & motif) const;
     void                           Montrer(std::vector<Entree_repertoire> entrees);
+    void                           Montrer_attribut(std::uint32_t attribut, bool montrer);
 
     std::wstring                   path_;
     std::wstring                   pattern_ = L"*.*";
-    bool                           caches_  = false;
-    bool                           systeme_ = false;
+    std::uint32_t                  exclus_  = Attribut::cache | Attribut::systeme;
+    bool                           normaux_ = true;
     std::vector<Entree_repertoire> entrees_;
 };

@@ -179,3 +179,40 @@ TEST_F(Evenements, relire_garde_le_chemin_et_les_entrees_choisies_qui_existent_e
     EXPECT_EQ(f->Fichiers.List(2), L"c.txt");
     EXPECT_EQ(f->Fichiers.Path(), Racine());
 }
+
+TEST_F(Evenements, une_liste_de_fichiers_laisse_de_cote_les_attributs_qu_elle_ne_montre_pas) {
+    Regler_attributs(Fichier(L"cache.txt"), FILE_ATTRIBUTE_HIDDEN);
+    Regler_attributs(Fichier(L"systeme.txt"), FILE_ATTRIBUTE_SYSTEM);
+    Regler_attributs(Fichier(L"lecture.txt"), FILE_ATTRIBUTE_READONLY);
+    Regler_attributs(Fichier(L"modifie.txt"), FILE_ATTRIBUTE_ARCHIVE);
+    Regler_attributs(Fichier(L"normal.txt"), FILE_ATTRIBUTE_NORMAL);
+    f->Fichiers.Path(Racine());
+    const auto noms = [&] {
+        std::vector<std::wstring> lus;
+        for (const Entree_repertoire & entree : f->Fichiers.Entrees()) lus.push_back(entree.nom);
+        return lus;
+    };
+    using Textes = std::vector<std::wstring>;
+    EXPECT_EQ(noms(), (Textes{L"lecture.txt", L"modifie.txt", L"normal.txt"}));
+    f->Fichiers.Hidden(true);
+    f->Fichiers.System(true);
+    EXPECT_EQ(noms(), (Textes{L"cache.txt", L"lecture.txt", L"modifie.txt", L"normal.txt", L"systeme.txt"}));
+    f->Fichiers.ReadOnly(false);
+    EXPECT_EQ(noms(), (Textes{L"cache.txt", L"modifie.txt", L"normal.txt", L"systeme.txt"}));
+    // Some disks give every file the archive attribute.
+    Textes sans_archive;
+    for (const wchar_t * nom : {L"cache.txt", L"modifie.txt", L"normal.txt", L"systeme.txt"}) {
+        if ((Attributs(Chemin(nom)) & FILE_ATTRIBUTE_ARCHIVE) == 0) sans_archive.emplace_back(nom);
+    }
+    f->Fichiers.Archive(false);
+    EXPECT_EQ(noms(), sans_archive);
+    f->Fichiers.Archive(true);
+    f->Fichiers.Hidden(false);
+    f->Fichiers.Normal(false);
+    for (const Entree_repertoire & entree : f->Fichiers.Entrees()) {
+        EXPECT_NE(entree.attributs & (Attribut::systeme | Attribut::modifie), 0u);
+    }
+    f->Fichiers.Archive(false);
+    EXPECT_TRUE(!f->Fichiers.Hidden() && f->Fichiers.System() && !f->Fichiers.ReadOnly() &&
+                !f->Fichiers.Archive());
+}
