@@ -38,13 +38,14 @@ Controle::Controle(Fenetre & fenetre, const Place & place, const Genre & genre)
       width_(place.width), height_(place.height), fond_(couleur_face), encre_(couleur_texte_bouton) {
     const unsigned id     = fenetre.Ajouter(*this);
     const SIZE     taille = Taille(left_, top_, width_, height_);
-    const DWORD    style  = WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | genre.style |
-                        (genre.tabulation ? static_cast<DWORD>(WS_TABSTOP) : 0U);
+    const DWORD    style =
+        WS_CHILD | WS_CLIPSIBLINGS | genre.style | (genre.tabulation ? static_cast<DWORD>(WS_TABSTOP) : 0U);
     poignee_ = CreateWindowExW(genre.style_etendu, genre.classe, place.caption, style, Pixels(left_),
                                Pixels(top_), taille.cx, taille.cy, fenetre.Poignee(),
                                reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), Module(), nullptr);
     Nommer(poignee_, nom_);
     SendMessageW(poignee_, WM_SETFONT, reinterpret_cast<WPARAM>(fenetre.police_), FALSE);
+    Marquer_visible(true);
     SetWindowLongPtrW(poignee_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     d_origine_ = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(poignee_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Controle::Procedure)));
@@ -74,7 +75,17 @@ void Controle::Visible(bool visible) {
     if (visible && (GetWindowLongPtrW(poignee_, GWL_STYLE) & WS_TABSTOP) == 0) {
         SetWindowPos(poignee_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
-    ShowWindow(poignee_, visible ? SW_SHOWNA : SW_HIDE);
+    if (fenetre_.Montree())
+        ShowWindow(poignee_, visible ? SW_SHOWNA : SW_HIDE);
+    else
+        Marquer_visible(visible);
+}
+
+// While its window is not shown, the mark is enough: the system need not place the control once more.
+void Controle::Marquer_visible(bool visible) {
+    const LONG_PTR style  = GetWindowLongPtrW(poignee_, GWL_STYLE);
+    const LONG_PTR marque = WS_VISIBLE;
+    SetWindowLongPtrW(poignee_, GWL_STYLE, visible ? style | marque : style & ~marque);
 }
 
 void Controle::Enabled(bool actif) {
@@ -111,7 +122,9 @@ void Controle::ForeColor(Couleur couleur) {
     Controle::Refresh();
 }
 
-void Controle::Refresh() { InvalidateRect(poignee_, nullptr, TRUE); }
+void Controle::Refresh() {
+    if (fenetre_.Montree()) InvalidateRect(poignee_, nullptr, TRUE);
+}
 
 bool Controle::Message(unsigned, std::uintptr_t, std::intptr_t, std::intptr_t &) { return false; }
 

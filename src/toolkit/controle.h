@@ -114,6 +114,7 @@ protected:
 
 private:
     static std::intptr_t __stdcall Procedure(Poignee_fenetre, unsigned, std::uintptr_t, std::intptr_t);
+    void          Marquer_visible(bool visible);
     std::intptr_t Recevoir(unsigned message, std::uintptr_t mot, std::intptr_t large);
 
     Fenetre &       fenetre_;
