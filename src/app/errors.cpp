@@ -11,10 +11,17 @@
 #include "toolkit/boites.h"
 
 namespace {
+// The network place that a path is on: its server and its share.
+std::wstring Partage(const std::wstring & chemin) {
+    const std::size_t serveur = chemin.find(L'\\', 2);
+    return chemin.substr(0, serveur == std::wstring::npos ? serveur : chemin.find(L'\\', serveur + 1));
+}
+
 // The drive that a message names: a full disk is the DESTINATION, otherwise the drive of the path that
 // failed.
 std::wstring Unite_en_cause(const Erreur_execution & erreur, const Gestion_Fichiers & f) {
     if (erreur.numero == Numero::disque_plein) return Majuscules(f.Unité_dest.Drive().substr(0, 2));
+    if (erreur.chemin.starts_with(L"\\\\")) return Majuscules(Partage(erreur.chemin));
     if (erreur.chemin.size() >= 2 && erreur.chemin[1] == L':') return Majuscules(erreur.chemin.substr(0, 2));
     return Majuscules(f.Unité_srce.Drive().substr(0, 2));
 }

@@ -161,6 +161,8 @@ void Retrouver_fichier_choisi() {
             Chemin_destination();
         else
             Chemins_fichier();
+        // Nothing is under way: a later report must not name this file.
+        variables.Fichier_courant.clear();
     });
 }
 

@@ -32,9 +32,10 @@ Copie Conclure(Copie copie, int reponse) {
 }
 
 void Refuser_copie_sur_soi() {
+    const bool deplace = variables.Commande_en_cours == L"DEPLACER";
     Bip();
-    Message_boite(L"Le fichier " + Majuscules(variables.Fichier_courant) +
-                      L"\rne peut être copié sur lui-même.",
+    Message_boite(L"Le fichier " + Majuscules(variables.Fichier_courant) + L"\rne peut être " +
+                      (deplace ? L"déplacé" : L"copié") + L" sur lui-même.",
                   Boite::ok | Boite::exclamation, variables.Commande_en_cours);
 }
 

@@ -197,7 +197,7 @@ TEST_F(Deplacement, sur_un_autre_nom_du_meme_fichier_ses_octets_restent) {
     Lancer_dans_les_dossiers();
     Choisir_un(L"a.txt");
     Cliquer(L"Déplacer");
-    Attendre_boite(L"DEPLACER", L"Le fichier A.TXT\rne peut être copié sur lui-même.", avertissement, IDOK);
+    Attendre_boite(L"DEPLACER", L"Le fichier A.TXT\rne peut être déplacé sur lui-même.", avertissement, IDOK);
     Verifier_repos(L"Déplacer");
     EXPECT_EQ(Lire_fichier(Source(L"a.txt")), octets);
     EXPECT_EQ(Lire_fichier(Destination(L"a.txt")), octets);
