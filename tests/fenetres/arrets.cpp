@@ -52,7 +52,7 @@ TEST_P(Arrets_D, chaque_fichier_reste_entier_et_rien_n_est_entame) {
     const Geste     gestes[] = {Geste::clic, Geste::echappement, Geste::acces, Geste::clic};
     std::mt19937    hasard(GetParam());
     Lancer_vers(L"D:\\");
-    const unsigned duree = Mesurer(bouton);
+    unsigned duree = Mesurer(bouton);
     std::printf("graine %u : %s, %u ms sans arrêt\n", GetParam(), Utf8(bouton).c_str(), duree);
     const unsigned avant = utiles_;
     for (unsigned i = 0; i < arrets_par_essai && !HasFatalFailure(); ++i) {
@@ -62,7 +62,9 @@ TEST_P(Arrets_D, chaque_fichier_reste_entier_et_rien_n_est_entame) {
         Sleep(hasard() % (duree + 1));
         Arreter(gestes[i % 4]);
         Attendre_arret();
+        const unsigned comptes = utiles_;
         Verifier(deplace, i);
+        duree = Ajuster(duree, utiles_ > comptes);
         Remettre();
     }
     EXPECT_GE(utiles_ - avant, arrets_par_essai / 4) << "trop peu d'arrêts tombent pendant la commande";

@@ -45,6 +45,10 @@ unsigned Lots::Mesurer(const std::wstring & bouton) {
     return duree;
 }
 
+unsigned Lots::Ajuster(unsigned duree, bool pendant) {
+    return pendant ? duree + duree / 8 + 1 : duree * 3 / 4;
+}
+
 Lots::Bilan Lots::Compter() const {
     Bilan bilan;
     for (const auto & [nom, empreinte] : empreintes_) {

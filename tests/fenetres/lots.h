@@ -15,6 +15,9 @@ protected:
     void Remettre();
     // Milliseconds that the command takes when nobody interrupts it.
     unsigned Mesurer(const std::wstring & bouton);
+    // The span, in milliseconds, within which the next blow falls: shorter after one that came too late, longer after one that
+    // fell during the command. A first measure on a busy machine says little about the rounds that follow.
+    static unsigned Ajuster(unsigned duree, bool pendant);
 
     struct Bilan {
         unsigned perdus   = 0;  // whole in neither place

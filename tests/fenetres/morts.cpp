@@ -34,7 +34,7 @@ protected:
 TEST_P(Morts_D, chaque_fichier_est_entier_quelque_part) {
     std::mt19937 hasard(GetParam());
     Lancer_vers(L"D:\\");
-    const unsigned duree = Mesurer(L"Déplacer");
+    unsigned duree = Mesurer(L"Déplacer");
     std::printf("graine %u : Déplacer, %u ms sans mort\n", GetParam(), duree);
     const unsigned avant = utiles_;
     for (unsigned i = 0; i < morts_par_essai && !HasFatalFailure(); ++i) {
@@ -47,7 +47,9 @@ TEST_P(Morts_D, chaque_fichier_est_entier_quelque_part) {
         Sleep(hasard() % (duree + 1));
         programme->Tuer();
         Fermer();
+        const unsigned comptes = utiles_;
         Verifier(i);
+        duree = Ajuster(duree, utiles_ > comptes);
         Remettre();
     }
     EXPECT_GE(utiles_ - avant, morts_par_essai / 4) << "trop peu de morts tombent pendant la commande";
