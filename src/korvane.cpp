@@ -7,12 +7,15 @@
 #include "browser/mode.h"
 #include "browser/motif.h"
 #include "browser/panneaux.h"
+#include "browser/saisie_chemin.h"
 #include "browser/selection.h"
 #include "fileops/commandes.h"
 #include "forms/apropos.h"
 #include "forms/dialogue.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/systeme.h"
+#include "recycle/fenetre_corbeille.h"
+#include "search/chercher.h"
 #include "toolkit/application.h"
 
 namespace {
@@ -24,7 +27,10 @@ void Brancher(Gestion_Fichiers & f, Dialogue & d) {
     Brancher_mode(f);
     Brancher_motif(f);
     Brancher_selection(f);
+    Brancher_saisie_chemin(f);
     Brancher_commandes(f);
+    Brancher_corbeille(f);
+    Brancher_chercher(f);
     Brancher_dialogue(d);
 }
 }  // namespace
@@ -40,8 +46,12 @@ extern "C" int __stdcall wWinMain(void *, void *, wchar_t *, int) {
     const std::uint64_t banniere = Montrer_banniere(apropos);
     Gestion_Fichiers    principale;
     Dialogue            dialogue;
-    fenetres = {&apropos, &principale, &dialogue};
+    fenetres.apropos    = &apropos;
+    fenetres.principale = &principale;
+    fenetres.dialogue   = &dialogue;
     Brancher(principale, dialogue);
     Charger(principale, apropos, banniere);
-    return Application::Boucler();
+    const int code = Application::Boucler();
+    fenetres.Fermer_filles();
+    return code;
 }

@@ -64,9 +64,11 @@ void Form_KeyDown(int & touche) {
     Ouvrir_fichier_aide();
 }
 
-void Expliquer(const Controle * controle) {
+void Expliquer(const Controle * controle) { Expliquer(controle, aide_fenetre_principale); }
+
+void Expliquer(const Controle * controle, const wchar_t * aide_fenetre) {
     if (!variables.Aide_active) return;
-    const std::wstring texte = controle == nullptr ? aide_fenetre_principale : controle->Aide();
+    const std::wstring texte = controle == nullptr ? aide_fenetre : controle->Aide();
     if (!texte.empty()) Montrer(texte);
 }
 

@@ -8,4 +8,5 @@ void Rappel_aide();               // the general hint, when a window that had it
 void Form_KeyDown(int & touche);  // F1; 0 when the key is finished with
 void Expliquer(
     const Controle * controle);  // puts a control's help text, the window's own for null, into the panel
+void Expliquer(const Controle * controle, const wchar_t * aide_fenetre);  // the same in another window
 void Brancher_aide(Gestion_Fichiers & f);

@@ -1,4 +1,7 @@
 #pragma once
+#include "toolkit/fenetre.h"
+
+#include <memory>
 
 struct Apropos;
 struct Dialogue;
@@ -9,6 +12,18 @@ struct Fenetres_programme {
     Apropos *          apropos    = nullptr;
     Gestion_Fichiers * principale = nullptr;
     Dialogue *         dialogue   = nullptr;
+    // Made when they are first opened.
+    std::unique_ptr<Fenetre> corbeille;
+    std::unique_ptr<Fenetre> infos;
+    std::unique_ptr<Fenetre> cde_chercher;
+    std::unique_ptr<Fenetre> cherche_fichier;
+
+    void Fermer_filles() {
+        corbeille.reset();
+        infos.reset();
+        cde_chercher.reset();
+        cherche_fichier.reset();
+    }
 };
 
 inline Fenetres_programme fenetres;

@@ -63,6 +63,19 @@ struct Variables {
     int          Taille_corbeille = 0;  // kilobytes, 0 for no limit
     std::int16_t Temps_corbeille  = 0;  // days, 0 for no limit
     std::int32_t Total_corbeille  = 0;  // bytes
+    // A limit that is no number from 1 to 9999 (999 for days): the bin is in use and nothing is purged.
+    bool         Limite_corbeille_incorrecte = false;
+    std::wstring Chemin_corbeille;     // directory of the index and "\\KORVANE.", empty while none is open
+    std::int16_t Mode_effacement = 0;  // 0 not chosen yet, 1 ask for each file, -1 ask no more
+    std::int32_t Date_du_jour    = 0;  // day serial number, taken once an erase or a purge
+
+    // Path entry and search.
+    std::wstring Nom_cherche;            // directory looked up on the whole drive
+    std::wstring Modele_cherche;         // normalised pattern of the files searched for
+    std::size_t  Nombre_trouves = 0;     // files carried from the search results to the SOURCE pane
+    bool         Recherche_en_cours = false;  // asked for, its window not shown yet
+    bool         Recherche_annulee  = false;
+    bool         Recherche_faite    = false;
 };
 
 inline Variables variables;

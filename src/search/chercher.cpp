@@ -1,0 +1,3 @@
+#include "search/chercher.h"
+
+void Brancher_chercher(Gestion_Fichiers & f) { (void)f; }
