@@ -5,10 +5,21 @@ set(KORVANE_SOURCES_LOGIQUE
     src/app/libelles_erreur.cpp
     src/platform/nombres.cpp
     src/browser/ligne_selection.cpp
+    src/config/ligne_conf.cpp
     src/fileops/jauge.cpp
+    src/fileops/lignes_commande.cpp
     src/fileops/questions.cpp
+    src/fileops/resume.cpp
     src/platform/motifs.cpp
-    src/platform/numeros.cpp)
+    src/platform/numeros.cpp
+    src/platform/utf8.cpp
+    src/recycle/fiche.cpp
+    src/recycle/lignes.cpp
+    src/recycle/purge.cpp
+    src/recycle/tirage.cpp
+    src/search/arbre.cpp
+    src/search/modeles.cpp
+    src/search/nom_repertoire.cpp)
 list(TRANSFORM KORVANE_SOURCES_LOGIQUE PREPEND "${CMAKE_SOURCE_DIR}/")
 
 add_library(logique STATIC ${KORVANE_SOURCES_LOGIQUE})

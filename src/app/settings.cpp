@@ -25,6 +25,13 @@ std::wstring Lire(const wchar_t * section, const std::wstring & cle, const wchar
     variables.Longueur_lue = valeur.size();
     return valeur;
 }
+
+// A limit of the recycle bin; its buffer holds no more digits than it may have. 0 for what is no whole number from 1 on.
+int Limite(const std::wstring & texte) {
+    const bool chiffres =
+        std::all_of(texte.begin(), texte.end(), [](wchar_t c) { return c >= L'0' && c <= L'9'; });
+    return chiffres ? static_cast<int>(Valeur(texte)) : 0;
+}
 }  // namespace
 
 void Situer_profil() {
@@ -59,16 +66,21 @@ void Lire_options_commandes() {
 }
 
 void Lire_limites_corbeille() {
+    variables.Taille_corbeille            = 0;
+    variables.Temps_corbeille             = 0;
+    variables.Corbeille_active            = false;
+    variables.Limite_corbeille_incorrecte = false;
+    variables.Texte_temps_corbeille.clear();
     variables.Texte_taille_corbeille = Lire(Section::corbeille, Cle::taille, L"", tampon_taille);
     if (!variables.Texte_taille_corbeille.empty()) {
-        variables.Taille_corbeille = static_cast<int>(Valeur(variables.Texte_taille_corbeille));
-        variables.Corbeille_active = true;
-        return;
+        variables.Taille_corbeille = Limite(variables.Texte_taille_corbeille);
+    } else {
+        variables.Texte_temps_corbeille = Lire(Section::corbeille, Cle::temps, L"", tampon_temps);
+        if (variables.Texte_temps_corbeille.empty()) return;
+        variables.Temps_corbeille = static_cast<std::int16_t>(Limite(variables.Texte_temps_corbeille));
     }
-    variables.Texte_temps_corbeille = Lire(Section::corbeille, Cle::temps, L"", tampon_temps);
-    if (variables.Texte_temps_corbeille.empty()) return;
-    variables.Temps_corbeille  = static_cast<std::int16_t>(Valeur(variables.Texte_temps_corbeille));
-    variables.Corbeille_active = true;
+    variables.Corbeille_active            = true;
+    variables.Limite_corbeille_incorrecte = variables.Taille_corbeille == 0 && variables.Temps_corbeille == 0;
 }
 
 void Lire_couleur() { variables.Option_couleur = Lire(Section::options, Cle::couleur, L"0", tampon_couleur); }

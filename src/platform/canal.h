@@ -12,6 +12,7 @@ public:
     void          Ouvrir(const std::wstring & chemin, std::uint32_t attributs);
     void          Fermer() noexcept;
     bool          Ouvert() const { return fichier_.Valide(); }
+    bool          A_sa_place() const;  // the path still leads to the file that is open
     std::uint64_t Longueur() const;
     std::string   Lire_tout() const;
     // One write at the end, on the disk when it returns. After an error the file is as it was, as far as the medium allows.
@@ -26,3 +27,6 @@ private:
 
 // Makes or replaces a whole file, on the disk when it returns; an error removes it.
 void Ecrire_fichier(const std::wstring & chemin, std::string_view octets, std::uint32_t attributs);
+
+// What was done to a file, its name included, reaches the disk; false when the file could not be opened for that.
+bool Fixer_fichier(const std::wstring & chemin);

@@ -19,3 +19,21 @@ private:
     void * poignee_ = nullptr;
     bool   deja_    = false;
 };
+
+std::wstring Repertoire_systeme();          // as GetSystemDirectoryA gives it, without a final "\"
+std::wstring Repertoire_donnees_locales();  // the user's, on this machine; empty when there is none
+// The local date as a day serial number: days since 30 December 1899.
+std::int32_t Jour_serie();
+
+// Keeps the other programs of this machine that ask for the same name waiting while it lives, those of other users too. A longer
+// wait than `attente` (milliseconds) gives error 70.
+class Exclusivite {
+public:
+    explicit Exclusivite(const wchar_t * nom, unsigned attente = 5000);
+    ~Exclusivite();
+    Exclusivite(const Exclusivite &)             = delete;
+    Exclusivite & operator=(const Exclusivite &) = delete;
+
+private:
+    void * poignee_ = nullptr;
+};

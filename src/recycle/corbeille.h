@@ -1,6 +1,8 @@
 #pragma once
 #include "recycle/magasin.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -8,16 +10,19 @@
 
 Magasin & Magasin_corbeille();
 
-// Opens the store, in the system directory or else in the user's own data; silent when it cannot: the next command that needs it
-// says so. The total is that of the settings, corrected by the index.
+// Opens the store anew, in the system directory or else in the user's own data; silent when it cannot: the next command that needs
+// it says so. The total is that of the settings, corrected by the index.
 void Ouvrir_corbeille();
 // Opens the store if it is not open; the error of the last place tried otherwise.
 void Exiger_corbeille();
 // Enforces the limits and saves the total; silent.
 void Purger_corbeille();
+// The sum of the sizes in the bin, in Total_corbeille; what 32 bits cannot hold gives the most they can.
+void Recalculer_total();
 // Writes Total_corbeille to the settings.
 void Enregistrer_total();
-// Stores files, see Magasin::Deposer; adds to Total_corbeille. Error 6, before anything is done, when that total would overflow.
+// Stores files, see Magasin::Deposer, and says how many; adds to Total_corbeille, after an error too. Error 6 for a file with which
+// that total would overflow; those before it are stored.
 std::size_t Deposer_fichiers(const std::vector<Depot> & depots, const std::function<bool()> & continuer);
 // Whether this file is larger than the size limit.
 bool Plus_grand_que_corbeille(std::uint64_t taille);

@@ -23,9 +23,9 @@ struct Fiche {
     std::wstring  repertoire;  // ends with '\'
 
     bool         operator==(const Fiche &) const = default;
-    std::wstring Chemin_avant() const { return repertoire + nom; }    // before erasure
-    std::wstring Chemin_code() const { return repertoire + code; }    // where the file lies now
-    std::int32_t Jour() const;                                        // of erasure, day serial number
+    std::wstring Chemin_avant() const { return repertoire + nom; }  // before erasure
+    std::wstring Chemin_code() const { return repertoire + code; }  // where the file lies now
+    std::int32_t Jour() const;                                      // of erasure, day serial number
 };
 
 std::wstring Nom_code(std::int32_t jour, int tirage);  // "crb35000.007"

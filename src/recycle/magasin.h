@@ -1,18 +1,15 @@
 #pragma once
-#include "platform/canal.h"
+#include "recycle/codes.h"
 #include "recycle/fiche.h"
+#include "recycle/index.h"
+#include "recycle/purge.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <string>
 #include <vector>
-
-// The two limits of the bin; with neither, nothing is purged.
-struct Limites_corbeille {
-    int taille = 0;  // kilobytes of 1024 bytes, 0 for none
-    int temps  = 0;  // days, 0 for none
-};
 
 // A file to be stored.
 struct Depot {
@@ -25,33 +22,57 @@ struct Depot {
 // hidden and read-only. It knows no window and no setting. At any instant, killed or without power, every file is at its place or in
 // the index: a record is on the disk before its file takes the coded name, and leaves the index after.
 //
-// Errors are Erreur_execution; what holds after one is said at each function.
+// Errors are Erreur_execution; what holds after one is said at each function. Programs that share an index take turns.
 class Magasin {
 public:
-    // The index is opened in the first of these directories where it can be written ("C:\WINDOWS\system32"), created hidden
-    // when there is none. What a crash left behind is mended: an unfinished rewrite, a torn last line. Not open after an error.
-    void Ouvrir(const std::vector<std::wstring> & repertoires);
-    void Fermer() noexcept;
-    bool Ouvert() const;
-    const std::wstring & Repertoire() const;  // of the index
+    Magasin();
 
-    // The records whose file is there, oldest first, and the sum of their sizes.
-    const std::vector<Fiche> & Fiches() const;
+    // The index is opened in the first of these directories where it can be written ("C:\WINDOWS\system32"), created hidden
+    // when there is none; the directories after the first are made when missing. What a crash left behind is mended: an
+    // unfinished rewrite, a torn last line. Not open after an error, which is that of the last directory.
+    void                 Ouvrir(const std::vector<std::wstring> & repertoires);
+    void                 Fermer() noexcept;
+    bool                 Ouvert() const { return index_.Ouvert(); }
+    const std::wstring & Repertoire() const { return index_.Repertoire(); }  // of the index
+
+    // The records whose file is there, or cannot be looked for, oldest first, and the sum of their sizes.
+    const std::vector<Fiche> & Fiches() const { return fiches_; }
     std::uint64_t              Total() const;
     // Reads the index again, which another machine may have changed.
     void Relire();
 
-    // Stores files from `premier` on. All records go to the disk together, then each file takes its coded name; `continuer` is asked
-    // before each file but the first. `deposes` says how many were stored: less than all of them after an error and when `continuer`
-    // said no. Read-only file: 75. All thousand names of the day taken in its directory: 58. The files stored before an error are in the
-    // bin, the others where they were, and no record of theirs is left.
-    void Deposer(const std::vector<Depot> & depots, std::int32_t jour, const std::function<bool()> & continuer,
-                 std::size_t & deposes);
-    // Destroys what the limits no longer allow, oldest first, and rewrites the index when it changed.
+    // Stores files. All records go to the disk together, then each file takes its coded name; `continuer` is asked before each
+    // file but the first. `deposes` says how many were stored: less than all of them after an error and when `continuer` said no.
+    // Read-only file: 75. All thousand names of the day taken in its directory: 58. Directory without a drive letter: 52. Name that
+    // a record cannot hold: 64. The files stored before an error are in the bin, the others where they were, and no record of
+    // theirs is left.
+    void Deposer(const std::vector<Depot> & depots, std::int32_t jour,
+                 const std::function<bool()> & continuer, std::size_t & deposes);
+    // Destroys what the limits no longer allow, oldest first, and rewrites the index when it changed. What cannot be destroyed
+    // stays in it, without an error.
     void Purger(const Limites_corbeille & limites, std::int32_t jour);
-    // Gives these files (indexes in Fiches) their names back. Those restored leave the index whatever happens to a later one; the first
-    // error ends it.
+    // Gives these files (indexes in Fiches) their names back; `continuer` is asked before each but the first. Those restored
+    // leave the index whatever happens to a later one; the first error ends it. Former name taken: 58.
     void Restaurer(const std::vector<std::size_t> & choix, const std::function<bool()> & continuer);
-    // Every file of the index is destroyed, then the index. A file that cannot be destroyed stays in it, and its error is thrown.
+    // A directory takes another name, by `renommer`: the files stored in it and below stay in the bin. Their records are on the
+    // disk under the new name before it runs. After an error nothing has changed.
+    void Suivre_repertoire(const std::wstring & ancien, const std::wstring & nouveau,
+                           const std::function<void()> & renommer);
+    // Every file of the index is destroyed, then the index, which is closed. A file that cannot be destroyed stays in it, and its
+    // error is thrown when the others are gone. The index stays, closed, when it names files of another removable medium.
     void Detruire();
+
+private:
+    void Actualiser();  // fiches_ from the lines of the index
+    void Accorder();    // memory with the disk, before anything is changed
+    void Ranger(std::vector<Fiche> & fiches, const std::function<bool()> & continuer, std::size_t & deposes);
+    void Conclure(const std::vector<Fiche> & fiches, std::size_t deposes);
+    void Placer(std::vector<Fiche> & fiches, std::size_t rang, bool & code);
+    void Changer_code(std::vector<Fiche> & fiches, std::size_t rang);
+    std::vector<Fiche> Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const;
+    void               Reecrire(const std::vector<Fiche> & parties, std::exception_ptr premiere_erreur);
+
+    Index_corbeille    index_;
+    Codes_libres       codes_;
+    std::vector<Fiche> fiches_;
 };

@@ -1,0 +1,32 @@
+#include "config/ligne_conf.h"
+
+namespace {
+constexpr std::size_t max_extension = 3;  // characters of an association's key
+
+std::size_t Position_egal(std::wstring_view ligne) {  // 1-based, 0 when absent
+    const std::size_t egal = ligne.find(L'=');
+    return egal == std::wstring_view::npos ? 0 : egal + 1;
+}
+}  // namespace
+
+Ligne_conf Decouper_ligne(std::wstring_view ligne) {
+    const std::size_t egal = Position_egal(ligne);
+    if (egal <= 1) return {};
+    return {std::wstring(ligne.substr(0, egal - 1)), std::wstring(ligne.substr(egal))};
+}
+
+std::wstring Ecrire_ligne(const Ligne_conf & ligne) { return ligne.cle + L"=" + ligne.valeur; }
+
+Boutons_permis Permettre(std::wstring_view ligne, Section_conf section) {
+    const std::size_t egal = Position_egal(ligne);
+    if (egal <= 1) return {};
+    if (section == Section_conf::associations && egal > max_extension + 1) return {};
+    return {section != Section_conf::selections, ligne.size() > egal};
+}
+
+std::wstring Composer_ligne(std::wstring_view ligne, std::wstring_view fichier, Section_conf section) {
+    const std::wstring cle      = Decouper_ligne(ligne).cle;
+    std::wstring       composee = cle + L"=" + std::wstring(fichier);
+    if (section == Section_conf::associations) composee += L" ^." + cle;
+    return composee;
+}

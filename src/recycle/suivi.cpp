@@ -1,0 +1,84 @@
+#include "platform/erreur.h"
+#include "platform/fichiers.h"
+#include "platform/systeme.h"
+#include "platform/textes.h"
+#include "recycle/magasin.h"
+#include "recycle/presence.h"
+
+#include <map>
+#include <optional>
+
+namespace {
+
+// A stored file's directory, which ends with "\", once `ancien` is called `nouveau`; none when it is elsewhere.
+// `present` lets the disk tell that it is the same directory under another name.
+std::optional<std::wstring> Apres_renommage(const std::wstring & repertoire, const std::wstring & ancien,
+                                            const std::wstring & nouveau, bool present) {
+    for (std::size_t barre = repertoire.rfind(L'\\'); barre != std::wstring::npos && barre >= 2;
+         barre             = repertoire.rfind(L'\\', barre - 1)) {
+        const std::wstring haut = repertoire.substr(0, barre == 2 ? 3 : barre);
+        if (Comparer_sans_casse(haut, ancien) == 0 || (present && Meme_repertoire(haut, ancien)))
+            return nouveau + repertoire.substr(barre);
+    }
+    return std::nullopt;
+}
+
+void Verifier(const Fiche & fiche) {
+    std::string ligne = Ecrire_fiche(fiche, Page_du_systeme());
+    ligne.resize(ligne.size() - 2);
+    if (Lire_fiche(ligne, Page_du_systeme()) != fiche)
+        throw Erreur_execution(Numero::nom_incorrect, 0, fiche.repertoire);
+}
+
+}  // namespace
+
+std::vector<Fiche> Magasin::Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const {
+    std::vector<Fiche>                                  suivies;
+    std::map<std::wstring, std::optional<std::wstring>> connus;
+    for (const Ligne_index & ligne : index_.Lignes()) {
+        const bool present = ligne.presence == Presence::la;
+        if (!ligne.fiche || (!present && ligne.presence != Presence::inaccessible)) continue;
+        const std::wstring & repertoire = ligne.fiche->repertoire;
+        auto                 connu      = connus.find(repertoire);
+        if (connu == connus.end())
+            connu = connus.emplace(repertoire, Apres_renommage(repertoire, ancien, nouveau, present)).first;
+        if (!connu->second) continue;
+        suivies.push_back(*ligne.fiche);
+        suivies.back().repertoire = *connu->second;
+        Verifier(suivies.back());
+    }
+    return suivies;
+}
+
+// Those that no line has yet: a directory may take back a name that it had before.
+std::vector<Fiche> Magasin::Sans_ligne(std::vector<Fiche> fiches) const {
+    Chemins_codes inscrits;
+    for (const Ligne_index & ligne : index_.Lignes())
+        if (ligne.fiche) inscrits.insert(Sans_casse(ligne.fiche->Chemin_code()));
+    std::erase_if(fiches,
+                  [&](const Fiche & fiche) { return inscrits.contains(Sans_casse(fiche.Chemin_code())); });
+    return fiches;
+}
+
+void Magasin::Suivre_repertoire(const std::wstring & ancien, const std::wstring & nouveau,
+                                const std::function<void()> & renommer) {
+    // Records do not tell one case from another.
+    if (Comparer_sans_casse(ancien, nouveau) == 0) return renommer();
+    const Exclusivite tour(tour_de_la_corbeille);
+    Accorder();
+    const std::vector<Fiche> suivies = Fiches_suivies(ancien, nouveau);
+    if (suivies.empty()) return renommer();
+    const std::vector<Fiche> nouvelles = Sans_ligne(suivies);
+    if (!nouvelles.empty()) index_.Inscrire(nouvelles, 0);
+    try {
+        renommer();
+    } catch (...) {
+        if (!nouvelles.empty()) index_.Retirer(0);
+        throw;
+    }
+    if (!nouvelles.empty()) index_.Confirmer(nouvelles, nouvelles.size());
+    // The former records have no file and leave with the next rewriting: a power cut may give the directory its
+    // former name back until then.
+    index_.Constater();
+    Actualiser();
+}
