@@ -12,6 +12,7 @@
 #include "platform/nombres.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
+#include "recycle/corbeille.h"
 #include "toolkit/application.h"
 #include "toolkit/boites.h"
 #include "toolkit/ecran.h"
@@ -111,6 +112,12 @@ void Charger_boutons(Gestion_Fichiers & f) {
     }
 }
 
+void Ouvrir_et_purger_corbeille() {
+    if (!variables.Corbeille_active) return;
+    Ouvrir_corbeille();
+    Purger_corbeille();
+}
+
 // Each step has its own trap: a failing one is reported and the next ones still run.
 void Executer_etapes(Gestion_Fichiers & f) {
     Pieger(etape, [&] { Preparer_controles(f); });
@@ -119,6 +126,9 @@ void Executer_etapes(Gestion_Fichiers & f) {
         Situer_profil();
         Lire_options_commandes();
         Lire_limites_corbeille();
+    });
+    Pieger(etape, Ouvrir_et_purger_corbeille);
+    Pieger(etape, [&] {
         Lire_couleur();
         Appliquer_couleur(static_cast<int>(Valeur(variables.Option_couleur)));
     });

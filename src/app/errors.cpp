@@ -17,10 +17,15 @@ std::wstring Partage(const std::wstring & chemin) {
     return chemin.substr(0, serveur == std::wstring::npos ? serveur : chemin.find(L'\\', serveur + 1));
 }
 
-// The drive that a message names: a full disk is the DESTINATION, otherwise the drive of the path that
-// failed.
+// Copies fill the DESTINATION disk; the other commands write elsewhere.
+bool Ecrit_en_destination() {
+    return variables.Commande_en_cours == L"COPIER" || variables.Commande_en_cours == L"DEPLACER";
+}
+
+// The drive that a message names: that of the path that failed, but for a copy that fills its disk.
 std::wstring Unite_en_cause(const Erreur_execution & erreur, const Gestion_Fichiers & f) {
-    if (erreur.numero == Numero::disque_plein) return Majuscules(f.Unité_dest.Drive().substr(0, 2));
+    if (erreur.numero == Numero::disque_plein && Ecrit_en_destination())
+        return Majuscules(f.Unité_dest.Drive().substr(0, 2));
     if (erreur.chemin.starts_with(L"\\\\")) return Majuscules(Partage(erreur.chemin));
     if (erreur.chemin.size() >= 2 && erreur.chemin[1] == L':') return Majuscules(erreur.chemin.substr(0, 2));
     return Majuscules(f.Unité_srce.Drive().substr(0, 2));
@@ -37,7 +42,7 @@ Contexte_erreur Contexte(const Erreur_execution & erreur, const Gestion_Fichiers
     contexte.editeur         = variables.Editeur;
     contexte.visualiseur     = variables.Visualiseur;
     contexte.unite           = Unite_en_cause(erreur, f);
-    contexte.disquette       = Est_disquette(f.Unité_dest.Drive());
+    contexte.disquette       = Ecrit_en_destination() && Est_disquette(f.Unité_dest.Drive());
     contexte.mode_repertoire = variables.Mode_repertoire;
     return contexte;
 }

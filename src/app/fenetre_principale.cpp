@@ -30,19 +30,19 @@ void Cacher_progression(Gestion_Fichiers & f) {
     f.Croiser.Enabled(true);
 }
 
-void Montrer_liste_repertoire(Gestion_Fichiers & f) {
-    variables.Mode_resultats = false;
-    f.Fichier_srce.Visible(true);
-    f.Fichier_sél.Visible(false);
-    f.Fichier_sél.Clear();
-}
-
 void Relire_listes(Gestion_Fichiers & f) {
     Tenter([&] { f.Répertoire_dest.Refresh(); });
     Tenter([&] { Appliquer_motif(f.Fichier_dest); });
     Tenter([&] { f.Répertoire_srce.Refresh(); });
     Tenter([&] { Appliquer_motif(f.Fichier_srce); });
     variables.Destination_perimee = false;
+}
+
+void Remettre_au_repos(Gestion_Fichiers & f) {
+    Application::Titre(L"KORVANE");
+    variables.Arret_demande = false;
+    variables.Fichier_courant.clear();
+    Cacher_progression(f);
 }
 
 void Arret_Click() { variables.Arret_demande = true; }
@@ -57,14 +57,19 @@ void Form_QueryUnload(bool & refus, Fermeture fermeture) {
 void Retablir_fenetre() {
     const Garde        garde;
     Gestion_Fichiers & f = Principale();
-    Application::Titre(L"KORVANE");
-    variables.Arret_demande = false;
-    Cacher_progression(f);
-    Montrer_liste_repertoire(f);
+    Remettre_au_repos(f);
+    Quitter_resultats(f);
     Relire_listes(f);
-    variables.Fichier_courant.clear();
     Fichier_srce_PathChange();
     Reprendre_entree(f);
+}
+
+void Retablir_apres_echec(const std::wstring & commande) {
+    const Garde        garde;
+    Gestion_Fichiers & f = Principale();
+    if (!variables.Mode_resultats || !Reprendre_resultats(f, commande)) return Retablir_fenetre();
+    Remettre_au_repos(f);
+    Relire_listes(f);
 }
 
 void Form_Resize() {

@@ -53,6 +53,7 @@ void Garder(const std::wstring & commande, const std::function<void(Gestion_Fich
     Gestion_Fichiers & f        = Principale();
     variables.Commande_en_cours = commande;
     variables.Index_a_reprendre = -1;
+    variables.Index_courant     = 0;
     std::optional<Erreur_execution> erreur;
     std::wstring                    fichier;
     {
@@ -61,7 +62,10 @@ void Garder(const std::wstring & commande, const std::function<void(Gestion_Fich
         const Application::Entree_reservee entree(f.Arret);
         erreur  = Executer([&] { corps(f); });
         fichier = variables.Fichier_courant;
-        Retablir_fenetre();
+        if (erreur)
+            Retablir_apres_echec(commande);
+        else
+            Retablir_fenetre();
         Afficher_espace_libre();
     }
     if (!erreur) return;

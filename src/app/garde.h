@@ -27,5 +27,5 @@ void Pieger(const std::wstring & commande, const std::function<void()> & corps,
 
 // The gate and trap of the commands: nothing happens while another one is in progress. While the body runs
 // the guard flag is up, the pointer is the hourglass and input reaches the stop button alone. Every way out
-// ends with Retablir_fenetre; an error is reported after it.
+// ends with Retablir_fenetre, or Retablir_apres_echec for an error, which is reported after it.
 void Garder(const std::wstring & commande, const std::function<void(Gestion_Fichiers &)> & corps);

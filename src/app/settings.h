@@ -33,8 +33,9 @@ void Situer_profil();           // Fichier_ini, Prefixe_fichiers, Unite_programm
 void Lire_iconise();            // Option_iconise
 void Lire_bordure();            // Bordure
 void Lire_options_commandes();  // Editeur, Visualiseur, Confirme_commande, Confirme_remplacement, Option_aide
-void Lire_limites_corbeille();  // size limit, else time limit; Corbeille_active
-void Lire_couleur();            // Option_couleur
+// Size limit, else time limit; Corbeille_active, Limite_corbeille_incorrecte.
+void Lire_limites_corbeille();
+void Lire_couleur();             // Option_couleur
 void Lire_repertoire_initial();  // Repertoire_initial, upper case
 
 std::vector<std::wstring> Cles_section(const wchar_t * section);

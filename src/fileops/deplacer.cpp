@@ -4,6 +4,7 @@
 #include "fileops/commandes.h"
 #include "fileops/confirmations.h"
 #include "fileops/copie.h"
+#include "fileops/curseur.h"
 #include "fileops/destination.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/erreur.h"
@@ -15,24 +16,6 @@
 
 namespace {
 enum class Suite { continuer, terminer };
-
-// Where the SOURCE list's cursor goes as files leave the list one by one.
-class Curseur {
-public:
-    explicit Curseur(const Liste & liste) : nombre_(liste.ListCount()), index_(liste.ListIndex()) {}
-
-    // One file less; false when the list is empty.
-    bool Retirer() {
-        --nombre_;
-        if (nombre_ > 0 && index_ == nombre_) --index_;
-        return nombre_ > 0;
-    }
-    int Index() const { return nombre_ > 0 ? index_ : -1; }
-
-private:
-    int nombre_;
-    int index_;
-};
 
 struct Deplacement {
     Gestion_Fichiers & f;
@@ -129,7 +112,8 @@ Suite Deplacer_un_fichier(Deplacement & d) {
 void Déplacer_Click() {
     Garder(L"DEPLACER", [](Gestion_Fichiers & f) {
         if (f.Ligne_message.Caption().empty()) return Signaler_absence_selection();
-        Deplacement d{f, Parcours(f), Destination(f), Curseur(f.Fichier_srce)};
+        Deplacement d{f, Parcours(f), Destination(f),
+                      Curseur(f.Fichier_srce.ListCount(), f.Fichier_srce.ListIndex())};
         while (d.parcours.Suivant()) {
             if (Deplacer_un_fichier(d) == Suite::terminer || variables.Arret_demande) break;
         }

@@ -7,7 +7,9 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <vector>
 
 // The two-pane main window, 770 x 457 pixels at 96 DPI. Handlers are attached by the subsystems that own
 // them.
@@ -97,4 +99,6 @@ struct Gestion_Fichiers : Fenetre {
     std::wstring  Motif_courant;        // last pattern that the lists accepted
     std::wstring  Premier_fichier;      // first of the files counted on the message line
     std::uint64_t Total_selection = 0;  // bytes of the files counted on the message line
+    std::vector<std::optional<std::uint64_t>>
+        Longueurs_resultats;  // bytes, entry by entry; none not read yet
 };

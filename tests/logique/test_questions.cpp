@@ -39,6 +39,43 @@ TEST(Questions, une_unite_trop_petite_est_nommee) {
               L"qu'il y ait des fichiers en remplacement.\rVoulez-vous continuer ?");
 }
 
+TEST(Questions, un_fichier_plus_grand_que_la_corbeille_est_nomme) {
+    EXPECT_EQ(Question_trop_grand(L"ÉTÉ.TXT"),
+              L"Attention ! La taille du fichier 'ÉTÉ.TXT' est plus grande que celle de la corbeille; son "
+              L"effacement entrainera la perte des fichiers déjà présent dans celle-ci.\r"
+              L"Voulez-vous agrandir la taille de la corbeille auparavant ?");
+}
+
+TEST(Questions, un_repertoire_est_confirme_par_son_chemin) {
+    EXPECT_EQ(Question_repertoire(L"SUPPRIMER", L"le répertoire ", L"C:\\ÉTÉ"),
+              L"Vous allez SUPPRIMER\rle répertoire C:\\ÉTÉ\r\rConfirmez-vous cette commande ?");
+    EXPECT_EQ(Question_repertoire(L"CREER", L"un répertoire sous ", L"C:\\"),
+              L"Vous allez CREER\run répertoire sous C:\\\r\rConfirmez-vous cette commande ?");
+}
+
+TEST(Questions, le_nombre_de_sous_repertoires_garde_la_place_de_son_signe) {
+    EXPECT_EQ(Refus_sous_repertoires(1),
+              L"Le répertoire contient  1 sous-répertoire(s),\ril faut d'abord le(s) supprimer.");
+    EXPECT_EQ(Refus_sous_repertoires(40000),
+              L"Le répertoire contient  40000 sous-répertoire(s),\ril faut d'abord le(s) supprimer.");
+}
+
+TEST(Questions, un_nom_est_demande_pour_ce_que_l_on_cree_ou_renomme) {
+    EXPECT_EQ(Question_nom_cree(L"C:\\"), L"Entrez le nom du répertoire à créer sous :\rC:\\");
+    EXPECT_EQ(Question_nouveau_nom_fichier(L"A.TXT"), L"Entrez le nouveau nom du fichier A.TXT");
+    EXPECT_EQ(Question_nouveau_nom_repertoire(L"C:\\ÉTÉ"), L"Entrez le nouveau nom du répertoire :\rC:\\ÉTÉ");
+}
+
+TEST(Questions, seules_les_unites_apres_b_ont_une_corbeille) {
+    for (const wchar_t * avec : {L"c:\\", L"C:\\travail", L"z:", L"Z:\\a"}) {
+        EXPECT_TRUE(Unite_avec_corbeille(avec)) << testing::PrintToString(avec);
+    }
+    for (const wchar_t * sans :
+         {L"a:\\", L"A:\\travail", L"b:\\", L"B:", L"\\\\serveur\\partage", L"", L"c", L"{:\\"}) {
+        EXPECT_FALSE(Unite_avec_corbeille(sans)) << testing::PrintToString(sans);
+    }
+}
+
 TEST(Questions, le_libelle_en_cours_met_la_commande_au_present) {
     EXPECT_EQ(Libelle_en_cours(L"COPIER", L"A.TXT"), L" COPIE le fichier A.TXT ");
     EXPECT_EQ(Libelle_en_cours(L"DEPLACER", L"A.TXT"), L" DEPLACE le fichier A.TXT ");
