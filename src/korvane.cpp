@@ -10,6 +10,7 @@
 #include "browser/saisie_chemin.h"
 #include "browser/selection.h"
 #include "fileops/commandes.h"
+#include "fileops/infos.h"
 #include "forms/apropos.h"
 #include "forms/dialogue.h"
 #include "forms/gestion_fichiers.h"
@@ -29,6 +30,7 @@ void Brancher(Gestion_Fichiers & f, Dialogue & d) {
     Brancher_selection(f);
     Brancher_saisie_chemin(f);
     Brancher_commandes(f);
+    Brancher_infos(f);
     Brancher_corbeille(f);
     Brancher_chercher(f);
     Brancher_dialogue(d);

@@ -6,6 +6,7 @@
 #include "app/globals.h"
 #include "app/routines.h"
 #include "browser/motif.h"
+#include "browser/panneau.h"
 #include "browser/selection.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/fichiers.h"
@@ -14,22 +15,6 @@
 #include <utility>
 
 namespace {
-// The controls of one pane.
-struct Panneau {
-    Liste_unites &      unite;
-    Liste_repertoires & repertoire;
-    Liste_fichiers &    fichiers;
-    Champ_texte &       chemin;
-};
-
-Panneau Source(Gestion_Fichiers & f) {
-    return {f.Unité_srce, f.Répertoire_srce, f.Fichier_srce, f.Chemin_srce};
-}
-
-Panneau Destination(Gestion_Fichiers & f) {
-    return {f.Unité_dest, f.Répertoire_dest, f.Fichier_dest, f.Chemin_dest};
-}
-
 // The drive list back on the drive of what its pane still shows.
 void Remettre_unite(const Panneau & p) { p.unite.Drive_sans_evenement(p.repertoire.Path()); }
 
@@ -39,7 +24,8 @@ void Suivre_repertoire(const Panneau & p) {
 }
 
 // Opens the current entry of a directory list. The pane is read from disk even when it stays where it was:
-// that is how a changed diskette is seen. Both file lists lose their selection.
+// that is how a changed diskette is seen. Both file lists lose their selection; search results keep theirs, on which
+// a command is still to work, while a DESTINATION is looked for.
 void Ouvrir_entree(const Panneau & p, const Panneau & autre) {
     const std::wstring avant = p.repertoire.Path();
     p.repertoire.Path(p.repertoire.List(p.repertoire.ListIndex()));
@@ -50,7 +36,7 @@ void Ouvrir_entree(const Panneau & p, const Panneau & autre) {
         Tenter([&] { Appliquer_motif(autre.fichiers); });
     }
     p.chemin.Text(p.repertoire.Path());
-    Vider_selection(Principale());
+    if (variables.Mode_resultats && &p.repertoire == &Principale().Répertoire_dest) return;
     Fichier_srce_PathChange();
 }
 
@@ -204,12 +190,6 @@ std::function<void(wchar_t &)> Sur_entree(void (*action)()) {
         if (caractere == Touche::entree) action();
     };
 }
-
-std::function<void(int &, int)> Sur_suppr(Bouton_commande & bouton) {
-    return [&bouton](int & touche, int) {
-        if (touche == Touche::suppr) bouton.Cliquer();
-    };
-}
 }  // namespace
 
 void Unité_srce_Change() {
@@ -239,6 +219,7 @@ void Répertoire_srce_Click() {
 
 void Fichier_srce_PathChange() {
     Gestion_Fichiers & f = Principale();
+    Quitter_resultats(f);
     f.Copier.Enabled(f.Fichier_srce.ListCount() >= 1 && !variables.Mode_repertoire);
     Vider_selection(f);
     f.Fichier_srce.BackColor(couleur_fond_fenetre);
@@ -253,17 +234,14 @@ void Brancher_panneaux(Gestion_Fichiers & f) {
     f.Répertoire_srce.Change   = Répertoire_srce_Change;
     f.Répertoire_srce.Click    = Répertoire_srce_Click;
     f.Répertoire_srce.KeyPress = Sur_entree(Répertoire_srce_Click);
-    f.Répertoire_srce.KeyDown  = Sur_suppr(f.Supprimer);
     f.Répertoire_dest.Change   = Répertoire_dest_Change;
     f.Répertoire_dest.Click    = Répertoire_dest_Click;
     f.Répertoire_dest.KeyPress = Sur_entree(Répertoire_dest_Click);
     f.Fichier_srce.DblClick    = Retrouver_fichier_choisi;
-    f.Fichier_srce.KeyDown     = Sur_suppr(f.Effacer);
     f.Fichier_srce.KeyPress    = Fichier_srce_KeyPress;
     f.Fichier_srce.MouseDown   = Fichier_srce_MouseDown;
     f.Fichier_srce.PathChange  = Fichier_srce_PathChange;
     f.Fichier_sél.DblClick     = Retrouver_fichier_choisi;
-    f.Fichier_sél.KeyDown      = Sur_suppr(f.Effacer);
     f.Fichier_dest.Click       = Fichier_dest_Click;
     f.Croiser.Brancher(Croiser_Click);
 }

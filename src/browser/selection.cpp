@@ -7,6 +7,7 @@
 #include "browser/panneaux.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/chemins.h"
+#include "platform/erreur.h"
 #include "platform/fichiers.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
@@ -20,14 +21,6 @@ namespace {
 constexpr Couleur fond_tout_selectionne  = 0x00A0F0FF;
 constexpr Couleur encre_tout_selectionne = 0x00000000;
 
-// Sets what the window keeps of a selection, and the message line.
-void Compter(Gestion_Fichiers & f, std::size_t nombre, std::uint64_t total, const std::wstring & premier) {
-    variables.Nombre_selection = nombre;
-    f.Total_selection          = total;
-    f.Premier_fichier          = premier;
-    f.Ligne_message.Caption(Ligne_selection(nombre, Format_milliers(total)));
-}
-
 // Counts the files selected in the SOURCE list, from its listing.
 void Compter_liste(Gestion_Fichiers & f) {
     const auto &  entrees   = f.Fichier_srce.Entrees();
@@ -36,26 +29,18 @@ void Compter_liste(Gestion_Fichiers & f) {
     for (const int index : selection) total += entrees[static_cast<std::size_t>(index)].taille;
     const std::wstring premier =
         selection.empty() ? std::wstring() : entrees[static_cast<std::size_t>(selection.front())].nom;
-    Compter(f, selection.size(), total, premier);
+    Afficher_compte(f, selection.size(), total, premier);
 }
 
-Fichier_choisi Resultat(const std::wstring & chemin) {
+// The list that commands work on.
+Liste & Liste_montree(Gestion_Fichiers & f) {
+    return variables.Mode_resultats ? f.Fichier_sél : static_cast<Liste &>(f.Fichier_srce);
+}
+
+Fichier_choisi Resultat(const Gestion_Fichiers & f, int index) {
+    const std::wstring chemin = f.Fichier_sél.List(index);
     return {std::wstring(Nom_du_chemin(chemin)), std::wstring(Repertoire_du_chemin(chemin)),
-            Longueur_fichier(chemin)};
-}
-
-void Fichier_sél_Click() {
-    if (variables.Garde) return;
-    Pieger(L"FICHIER SOURCE", [] {
-        Gestion_Fichiers & f    = Principale();
-        variables.Index_courant = 0;
-        std::uint64_t total     = 0;
-        const auto    selection = f.Fichier_sél.Selection();
-        for (const int index : selection) total += Longueur_fichier(f.Fichier_sél.List(index));
-        const std::wstring premier =
-            selection.empty() ? std::wstring() : f.Fichier_sél.List(selection.front());
-        Compter(f, selection.size(), total, std::wstring(Nom_du_chemin(premier)));
-    });
+            f.Longueurs_resultats[static_cast<std::size_t>(index)].value_or(0), index};
 }
 
 void Boutons_un_fichier(Gestion_Fichiers & f, bool actifs) {
@@ -67,13 +52,17 @@ void Boutons_un_fichier(Gestion_Fichiers & f, bool actifs) {
 void Commencer_tout_selectionne(Gestion_Fichiers & f) {
     const Garde                garde;
     const Application::Sablier sablier;
-    variables.Tout_selectionne = true;
+    Liste &                    liste = Liste_montree(f);
+    variables.Tout_selectionne       = true;
     f.Sélecte.Caption(L"&Sélectionner un");
-    f.Fichier_srce.BackColor(fond_tout_selectionne);
-    f.Fichier_srce.ForeColor(encre_tout_selectionne);
-    f.Fichier_srce.Tout_selectionner(true);
+    liste.BackColor(fond_tout_selectionne);
+    liste.ForeColor(encre_tout_selectionne);
+    liste.Tout_selectionner(true);
     Boutons_un_fichier(f, false);
-    Compter_liste(f);
+    if (variables.Mode_resultats)
+        Compter_resultats(f);
+    else
+        Compter_liste(f);
 }
 
 void Sélecte_Click() {
@@ -85,6 +74,8 @@ void Sélecte_Click() {
         else
             Commencer_tout_selectionne(f);
     });
+    // A result whose length could not be read was named in the report, and is under way no longer.
+    variables.Fichier_courant.clear();
 }
 
 // The entry that a walk examines next, -1 when the cursor is out of the list or nothing is left.
@@ -95,7 +86,26 @@ int Prochaine(const Liste & liste, int debut, bool avant) {
     }
     return -1;
 }
+// A result as it is now: its length, and its name as spelled on disk. Results are in lower case, which the files that a
+// command makes of them need not be.
+void Relire(Fichier_choisi & fichier, const std::wstring & chemin) {
+    const Entree_repertoire entree = Lire_entree(chemin);
+    if ((entree.attributs & Attribut::repertoire) != 0) {
+        throw Erreur_execution(Numero::fichier_introuvable, 0, chemin);
+    }
+    const bool lien = (entree.attributs & Attribut::lien) != 0;
+    fichier.nom     = entree.nom;
+    fichier.taille  = lien ? Longueur_fichier(chemin) : entree.taille;
+}
 }  // namespace
+
+void Afficher_compte(Gestion_Fichiers & f, std::size_t nombre, std::uint64_t total,
+                     const std::wstring & premier) {
+    variables.Nombre_selection = nombre;
+    f.Total_selection          = total;
+    f.Premier_fichier          = premier;
+    f.Ligne_message.Caption(Ligne_selection(nombre, Format_milliers(total)));
+}
 
 void Fichier_srce_Click() {
     if (variables.Garde) return;
@@ -110,11 +120,10 @@ void Fichier_srce_Click() {
 }
 
 void Selection_suivante(int direction) {
-    variables.Fichier_trouve   = false;
-    const Gestion_Fichiers & f = Principale();
-    variables.Liste_courante =
-        variables.Mode_resultats ? &f.Fichier_sél : &static_cast<const Liste &>(f.Fichier_srce);
-    const Liste & liste = *variables.Liste_courante;
+    variables.Fichier_trouve = false;
+    Gestion_Fichiers & f     = Principale();
+    const Liste &      liste = Liste_montree(f);
+    variables.Liste_courante = &liste;
     if (variables.Index_courant > liste.ListCount() - 1) return;
     const bool avant = direction == 1;
     const int  index = Prochaine(liste, variables.Index_courant, avant);
@@ -138,13 +147,12 @@ void Chemin_destination() {
 
 Parcours::Parcours(const Gestion_Fichiers & f) : destination_(f.Répertoire_dest.Path()) {
     if (variables.Mode_resultats) {
-        for (const int index : f.Fichier_sél.Selection())
-            fichiers_.push_back(Resultat(f.Fichier_sél.List(index)));
+        for (const int index : f.Fichier_sél.Selection()) fichiers_.push_back(Resultat(f, index));
     } else {
         const auto & entrees = f.Fichier_srce.Entrees();
         for (const int index : f.Fichier_srce.Selection()) {
             const Entree_repertoire & entree = entrees[static_cast<std::size_t>(index)];
-            fichiers_.push_back({entree.nom, f.Fichier_srce.Path(), entree.taille});
+            fichiers_.push_back({entree.nom, f.Fichier_srce.Path(), entree.taille, index});
         }
     }
     for (const Fichier_choisi & fichier : fichiers_) total_ += fichier.taille;
@@ -154,10 +162,13 @@ bool Parcours::Suivant() {
     variables.Fichier_trouve = suivant_ < fichiers_.size();
     variables.Fichier_courant.clear();
     if (!variables.Fichier_trouve) return false;
-    const Fichier_choisi & fichier = fichiers_[suivant_++];
-    variables.Fichier_courant      = fichier.nom;
-    variables.Chemin_source        = Joindre(fichier.repertoire, fichier.nom);
-    variables.Chemin_cible         = Joindre(destination_, fichier.nom);
+    Fichier_choisi & fichier  = fichiers_[suivant_++];
+    variables.Index_courant   = fichier.index + 1;
+    variables.Fichier_courant = fichier.nom;
+    variables.Chemin_source   = Joindre(fichier.repertoire, fichier.nom);
+    // The list is as old as the search.
+    if (variables.Mode_resultats) Relire(fichier, variables.Chemin_source);
+    variables.Chemin_cible = Joindre(destination_, fichier.nom);
     return true;
 }
 
@@ -171,8 +182,10 @@ void Terminer_tout_selectionne(Gestion_Fichiers & f) {
     if (!variables.Tout_selectionne) return;
     variables.Tout_selectionne = false;
     f.Sélecte.Caption(L"&Sélectionner tout");
-    f.Fichier_srce.BackColor(couleur_fond_fenetre);
-    f.Fichier_srce.ForeColor(couleur_texte_fenetre);
+    for (Liste * liste : {static_cast<Liste *>(&f.Fichier_srce), &f.Fichier_sél}) {
+        liste->BackColor(couleur_fond_fenetre);
+        liste->ForeColor(couleur_texte_fenetre);
+    }
     Boutons_un_fichier(f, true);
 }
 
@@ -180,7 +193,8 @@ void Vider_selection(Gestion_Fichiers & f) {
     const Garde garde;
     Terminer_tout_selectionne(f);
     f.Fichier_srce.Tout_selectionner(false);
-    Compter(f, 0, 0, {});
+    f.Fichier_sél.Tout_selectionner(false);
+    Afficher_compte(f, 0, 0, {});
 }
 
 void Reprendre_entree(Gestion_Fichiers & f) {
@@ -191,6 +205,8 @@ void Reprendre_entree(Gestion_Fichiers & f) {
     f.Fichier_srce.Selected(index, true);
     Compter_liste(f);
 }
+
+void Recompter_selection(Gestion_Fichiers & f) { Compter_liste(f); }
 
 void Brancher_selection(Gestion_Fichiers & f) {
     f.Fichier_srce.Click = Fichier_srce_Click;

@@ -1,5 +1,6 @@
 #include "platform/fichiers.h"
 
+#include "platform/chemins.h"
 #include "platform/erreur.h"
 #include "platform/poignee.h"
 
@@ -25,6 +26,12 @@ DWORD Attributs_ou_absent(const std::wstring & chemin) {
 
 bool Point_ou_deux(const wchar_t * nom) {
     return nom[0] == L'.' && (nom[1] == L'\0' || (nom[1] == L'.' && nom[2] == L'\0'));
+}
+
+Entree_repertoire Entree(const WIN32_FIND_DATAW & trouve) {
+    return {std::wstring(trouve.cFileName), En_64(trouve.nFileSizeHigh, trouve.nFileSizeLow),
+            En_64(trouve.ftLastWriteTime.dwHighDateTime, trouve.ftLastWriteTime.dwLowDateTime),
+            trouve.dwFileAttributes};
 }
 
 std::wstring Filtre_de_tout(const std::wstring & repertoire) {
@@ -58,10 +65,7 @@ Contenu_repertoire Lire_repertoire(const std::wstring & repertoire) {
     do {
         const bool est_repertoire = (trouve.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
         if (est_repertoire && Point_ou_deux(trouve.cFileName)) continue;
-        (est_repertoire ? contenu.repertoires : contenu.fichiers)
-            .push_back({std::wstring(trouve.cFileName), En_64(trouve.nFileSizeHigh, trouve.nFileSizeLow),
-                        En_64(trouve.ftLastWriteTime.dwHighDateTime, trouve.ftLastWriteTime.dwLowDateTime),
-                        trouve.dwFileAttributes});
+        (est_repertoire ? contenu.repertoires : contenu.fichiers).push_back(Entree(trouve));
     } while (FindNextFileW(recherche.Valeur(), &trouve));
     if (GetLastError() != ERROR_NO_MORE_FILES) Lever_derniere_erreur(Acte::lister, repertoire);
     return contenu;
@@ -95,6 +99,21 @@ std::uint64_t Longueur_fichier(const std::wstring & chemin) {
     LARGE_INTEGER taille;
     if (!GetFileSizeEx(fichier.Valeur(), &taille)) Lever_derniere_erreur(Acte::lire, chemin);
     return static_cast<std::uint64_t>(taille.QuadPart);
+}
+
+Entree_repertoire Lire_entree(const std::wstring & chemin) {
+    // "<", ">" and the quote are wildcards as well, to the file system itself.
+    if (chemin.empty() ||
+        chemin.find_first_of(L"?*<>\"", chemin.starts_with(L"\\\\?\\") ? 4 : 0) != std::wstring::npos)
+        Lever_code(ERROR_INVALID_NAME, Acte::ouvrir, chemin);
+    const std::wstring forme = Forme_longue(Sans_barre_finale(chemin));
+    // No directory lists a root.
+    if (forme.back() == L'\\') return {{}, 0, 0, Lire_attributs(forme)};
+    WIN32_FIND_DATAW        trouve;
+    const Poignee_recherche recherche(
+        FindFirstFileExW(forme.c_str(), FindExInfoBasic, &trouve, FindExSearchNameMatch, nullptr, 0));
+    if (!recherche.Valide()) Lever_derniere_erreur(Acte::ouvrir, chemin);
+    return Entree(trouve);
 }
 
 std::uint32_t Lire_attributs(const std::wstring & chemin) {

@@ -42,7 +42,10 @@ std::wstring Nom_sur_disque(
 bool          Fichier_existe(const std::wstring & chemin);  // a file, not a directory
 bool          Repertoire_existe(const std::wstring & chemin);
 std::uint64_t Longueur_fichier(const std::wstring & chemin);
-std::uint32_t Lire_attributs(const std::wstring & chemin);
+// One file or directory as its directory lists it, the name as spelled on disk (empty for a root). Errors 53, 76, 68, 71; 64
+// for a name that the system would take for a pattern.
+Entree_repertoire Lire_entree(const std::wstring & chemin);
+std::uint32_t     Lire_attributs(const std::wstring & chemin);
 void Ecrire_attributs(const std::wstring & chemin, std::uint32_t attributs);  // exactly these; 0 means normal
 
 // True when both paths name one file on the disk: other spelling, short name, substituted drive, hard link.

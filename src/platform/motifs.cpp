@@ -102,13 +102,22 @@ Motifs::Motifs(std::wstring_view texte, Plier plier) : plier_(plier) {
         const std::wstring_view un  = sans_blancs(texte.substr(0, fin));
         reste                       = fin != texte.npos;
         if (reste) texte.remove_prefix(fin + 1);
-        if (un.empty()) continue;
-        std::wstring motif = forme_etendue(un);
-        std::transform(motif.begin(), motif.end(), motif.begin(), plier);
-        tout_ = tout_ || motif == L"*";
-        motifs_.push_back(std::move(motif));
+        if (!un.empty()) Ajouter(un);
     }
     if (motifs_.empty()) tout_ = true;
+}
+
+Motifs Motifs::Un_seul(std::wstring_view texte, Plier plier) {
+    Motifs seul(plier);
+    if (!texte.empty()) seul.Ajouter(texte);
+    return seul;
+}
+
+void Motifs::Ajouter(std::wstring_view texte) {
+    std::wstring motif = forme_etendue(texte);
+    std::transform(motif.begin(), motif.end(), motif.begin(), plier_);
+    tout_ = tout_ || motif == L"*";
+    motifs_.push_back(std::move(motif));
 }
 
 bool Motifs::Accepte(std::wstring_view nom) const {

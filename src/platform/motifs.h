@@ -11,6 +11,8 @@ public:
     using Plier = wchar_t (*)(wchar_t);
 
     Motifs(std::wstring_view texte, Plier plier);
+    // One pattern, whose ";" and blanks are those of the names.
+    static Motifs Un_seul(std::wstring_view texte, Plier plier);
 
     bool Accepte(std::wstring_view nom) const;
     bool Tout() const { return tout_; }  // every name is accepted without being looked at
@@ -19,6 +21,9 @@ public:
     static bool Valide(std::wstring_view texte);
 
 private:
+    explicit Motifs(Plier plier) : plier_(plier) {}
+    void Ajouter(std::wstring_view motif);
+
     std::vector<std::wstring> motifs_;  // folded, in the form with the extended wildcards
     Plier                     plier_;
     bool                      tout_ = false;

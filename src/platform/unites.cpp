@@ -75,3 +75,8 @@ std::uint64_t Octets_libres(const std::wstring & racine) {
     if (!GetDiskFreeSpaceA(En_ansi(racine).c_str(), &secteurs, &octets, &libres, &total)) return 0;
     return std::uint64_t{libres} * secteurs * octets;
 }
+
+bool Support_amovible(const std::wstring & racine) {
+    const UINT genre = GetDriveTypeW(racine.c_str());
+    return genre == DRIVE_REMOVABLE || genre == DRIVE_CDROM;
+}

@@ -16,3 +16,6 @@ std::vector<Unite> Unites_presentes();
 
 // Free bytes of a drive's root ("c:\"), by GetDiskFreeSpaceA; 0 when the drive is not ready.
 std::uint64_t Octets_libres(const std::wstring & racine);
+
+// Whether the medium of that drive ("c:\") can be another one tomorrow. Never touches it.
+bool Support_amovible(const std::wstring & racine);

@@ -1,18 +1,22 @@
 #pragma once
 #include "search/arbre.h"
 
+#include <cstddef>
 #include <functional>
 #include <string>
 
 // The tree of the last disk walked, kept for the next search and lookup.
 
-// Called before each directory is read, with its index; false ends the walk. It lets events run.
+// Called before each directory is read, with its index, and again now and then during a long one; false ends the
+// walk. It lets events run.
 using Suivi_parcours = std::function<bool(const Arbre & arbre, std::size_t index)>;
 
 const Arbre & Arborescence();
-// Whether the tree kept is that of this drive ("C:") and its medium, and no directory was made, renamed or removed since by the program.
+// Whether the tree kept is that of this drive ("C:") and its medium, and no directory was made, renamed or removed
+// since by the program.
 bool Arborescence_valide(const std::wstring & unite);
-// Walks the drive again. Directories that cannot be read are skipped and counted, links are not followed. False when `suivi` ended the
-// walk: what was walked stays and counts as the tree. Errors of the root itself: 68, 71, 76.
-bool Relever_arborescence(const std::wstring & unite, const Suivi_parcours & suivi);
+// Walks the drive again. Directories that cannot be read are skipped and counted, links are not followed. False
+// when `suivi` ended the walk: what was walked stays and counts as the tree. Errors of the root itself: 68, 70, 71,
+// 76; nothing is kept then.
+bool        Relever_arborescence(const std::wstring & unite, const Suivi_parcours & suivi);
 std::size_t Repertoires_sautes();  // of the last walk

@@ -174,10 +174,14 @@ std::intptr_t Controle::Recevoir(unsigned message, std::uintptr_t mot, std::intp
         break;
     case WM_SETFOCUS:
         fenetre_.actif_ = this;
-        if (GotFocus) GotFocus();
+        if (!GotFocus) break;
+        GotFocus();
+        // A handler may pass the focus on: the control must not show a caret that it has lost already.
+        if (!A_le_focus()) return 0;
         break;
     case WM_KILLFOCUS:
-        if (LostFocus) LostFocus();
+        // A box, or another program, takes the focus for a while: it is not another control's.
+        if (LostFocus && GetAncestor(reinterpret_cast<HWND>(mot), GA_ROOT) == fenetre_.Poignee()) LostFocus();
         break;
     default: break;
     }

@@ -64,7 +64,7 @@ public:
     virtual void Refresh();
 
     std::function<void()>           GotFocus;
-    std::function<void()>           LostFocus;
+    std::function<void()>           LostFocus;  // to another control of the window
     std::function<void(int &, int)> KeyDown;   // key code, 0 consumes; shift state: 1 shift, 2 control, 4 alt
     std::function<void(wchar_t &)>  KeyPress;  // character, 0 consumes
     std::function<void(bool &)>     MouseDown;  // true: the control does not see the click

@@ -97,6 +97,13 @@ void Champ_texte::Selectionner(int debut, int longueur) {
 
 void Champ_texte::Limite(int caracteres) { Envoyer(EM_SETLIMITTEXT, static_cast<WPARAM>(caracteres)); }
 
+void Champ_texte::Montrer_seulement() {
+    Envoyer(EM_SETREADONLY, TRUE);
+    const LONG_PTR tabulation = WS_TABSTOP;
+    SetWindowLongPtrW(Poignee(), GWL_STYLE, GetWindowLongPtrW(Poignee(), GWL_STYLE) & ~tabulation);
+    BackColor(couleur_face);
+}
+
 void Champ_texte::Notification(unsigned code) {
     if (code == EN_CHANGE && !assigne_ && Change) Change();
 }

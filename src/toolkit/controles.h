@@ -49,6 +49,7 @@ public:
     void         Text(const std::wstring & texte);  // raises Change when it differs
     void         Selectionner(int debut, int longueur);
     void         Limite(int caracteres);
+    void         Montrer_seulement();  // its text cannot be typed into, and Tab passes it over
 
     std::function<void()> Change;
 

@@ -55,6 +55,8 @@ public:
     void       Refermer_listes();  // drop-down lists that are open, nothing chosen
     Controle * Trouver(std::wstring_view nom) const;
     Controle * Controle_de(Poignee_fenetre poignee) const;
+    // Runs it once, when the event being treated is over and before any key or click that comes after this call.
+    void Apres_evenement(std::function<void()> suite);
     // Publishes the window property "sablier" and shows the pointer at once.
     void Pointeur_sablier(bool sablier);
 
@@ -78,6 +80,7 @@ private:
     void          Activer(bool active);
     void          Survoler();
     bool          Pointeur_bouge();
+    void          Poursuivre();
     void          Notifier(Poignee_fenetre poignee, unsigned code);
     void          Finir_session();
     void          Peripherique_change();
@@ -99,6 +102,7 @@ private:
     bool                    modale_       = false;
     bool                    montree_      = false;
     Fenetre *               proprietaire_ = nullptr;
+    std::function<void()>   suite_;         // for Apres_evenement
     int  dernier_x_ = -1, dernier_y_ = -1;  // pointer at the last move treated, screen pixels
     bool proprietaire_actif_ = true;        // as found when the modal showing began
 };

@@ -6,8 +6,11 @@
 #include "toolkit/mesure.h"
 
 #include <dbt.h>
+#include <utility>
 
 namespace {
+constexpr UINT message_suite = WM_APP;
+
 bool Utilisable(const Controle * controle) {
     return controle != nullptr && controle->Visible() && IsWindowEnabled(controle->Poignee()) != FALSE;
 }
@@ -92,6 +95,15 @@ void Fenetre::Notifier(Poignee_fenetre poignee, unsigned code) {
     if (Controle * controle = Controle_de(poignee)) controle->Notification(code);
 }
 
+void Fenetre::Apres_evenement(std::function<void()> suite) {
+    suite_ = std::move(suite);
+    PostMessageW(poignee_, message_suite, 0, 0);
+}
+
+void Fenetre::Poursuivre() {
+    if (const auto suite = std::exchange(suite_, nullptr)) suite();
+}
+
 std::intptr_t Fenetre::Traiter(unsigned message, std::uintptr_t mot, std::intptr_t large) {
     switch (message) {
     case WM_COMMAND: Notifier(reinterpret_cast<HWND>(large), HIWORD(mot)); return 0;
@@ -136,6 +148,7 @@ std::intptr_t Fenetre::Traiter(unsigned message, std::uintptr_t mot, std::intptr
             return TRUE;
         }
         break;
+    case message_suite: Poursuivre(); return 0;
     case WM_CLOSE: Demande_fermeture(); return 0;
     case WM_QUERYENDSESSION: return TRUE;
     case WM_ENDSESSION:

@@ -96,15 +96,35 @@ void Liste::AddItem(const std::wstring & texte) {
 void Liste::RemoveItem(int index) { Envoyer(LB_DELETESTRING, static_cast<WPARAM>(index)); }
 
 void Liste::Clear() {
-    touche_ = false;
+    touche_    = false;
+    reservees_ = 0;
     Envoyer(LB_RESETCONTENT);
 }
 
 void Liste::Remplir(const std::vector<const wchar_t *> & textes) {
     Envoyer(WM_SETREDRAW, FALSE);
     Clear();
-    // 32 bytes a name is what most need; the list grows by itself beyond.
-    Envoyer(LB_INITSTORAGE, textes.size(), static_cast<LPARAM>(textes.size() * 32));
+    Ajouter_sans_dessin(textes);
+}
+
+void Liste::Ajouter(const std::vector<std::wstring> & textes) {
+    if (textes.empty()) return;
+    std::vector<const wchar_t *> adresses;
+    adresses.reserve(textes.size());
+    for (const std::wstring & texte : textes) adresses.push_back(texte.c_str());
+    Envoyer(WM_SETREDRAW, FALSE);
+    Ajouter_sans_dessin(adresses);
+}
+
+// Adds entries to a list that has been told not to redraw, and shows it again.
+void Liste::Ajouter_sans_dessin(const std::vector<const wchar_t *> & textes) {
+    const std::size_t voulues = static_cast<std::size_t>(ListCount()) + textes.size();
+    if (voulues > reservees_) {
+        // A list that grows by itself moves all its entries every few dozen. 32 bytes a name is what most need.
+        const std::size_t place = std::max(textes.size(), reservees_);
+        Envoyer(LB_INITSTORAGE, place, static_cast<LPARAM>(place * 32));
+        reservees_ = static_cast<std::size_t>(ListCount()) + place;
+    }
     // Each entry moves the scroll bar, which is drawn at once unless the list passes for hidden: eight times slower.
     const LONG_PTR style = GetWindowLongPtrW(Poignee(), GWL_STYLE);
     SetWindowLongPtrW(Poignee(), GWL_STYLE, style & ~static_cast<LONG_PTR>(WS_VISIBLE));

@@ -19,9 +19,11 @@ public:
     int              TopIndex() const;
     void             TopIndex(int index);
     void             AddItem(const std::wstring & texte);
+    void             Ajouter(const std::vector<std::wstring> & textes);  // at the end; redrawn once
     void             RemoveItem(int index);
     void             Clear();
-    bool             Souris() const { return souris_; }  // the event being handled comes from the mouse
+    void Remplir(const std::vector<const wchar_t *> & textes);  // the whole content at once; redrawn once
+    bool Souris() const { return souris_; }  // the event being handled comes from the mouse
     // The entry under a point of the list and whether its text is wider than the list; -1 for none.
     int Entree_survolee(bool & coupee) const;
 
@@ -31,12 +33,11 @@ public:
 
 protected:
     Liste(Fenetre & fenetre, const Place & place, bool multiple, bool dessinee);
-    void Notification(unsigned code) override;
-    bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large,
-                 std::intptr_t & resultat) override;
-    void Apres_message(unsigned message, std::uintptr_t mot, std::intptr_t large) override;
-    // Replaces the whole content at once; redrawn once.
-    void        Remplir(const std::vector<const wchar_t *> & textes);
+    void        Notification(unsigned code) override;
+    bool        Message(unsigned message, std::uintptr_t mot, std::intptr_t large,
+                        std::intptr_t & resultat) override;
+    void        Apres_message(unsigned message, std::uintptr_t mot, std::intptr_t large) override;
+    void        Ajouter_sans_dessin(const std::vector<const wchar_t *> & textes);
     virtual int Retrait(int ligne) const {  // pixels before an entry's text
         (void)ligne;
         return 0;
@@ -46,9 +47,10 @@ protected:
     bool Prendre_ctrl(int touche);
     void Aller_a_initiale(wchar_t lettre);
 
-    bool multiple_;
-    bool touche_ = false;  // an entry has had the focus since the list was filled
-    bool souris_ = false;
+    bool        multiple_;
+    std::size_t reservees_ = 0;      // entries that the list has room for
+    bool        touche_    = false;  // an entry has had the focus since the list was filled
+    bool        souris_    = false;
 };
 
 // A combo box: drop-down list alone, or with an editable text.

@@ -17,12 +17,14 @@ bool Est_souris_cadre(UINT message) { return message >= WM_NCLBUTTONDOWN && mess
 }  // namespace
 
 bool Saisie_clavier::Entree(Fenetre & fenetre, Controle * controle) {
+    const HWND poignee = fenetre.Poignee();
     if (controle != nullptr && controle->Deroule()) return false;
     if (controle != nullptr && controle->Enfoncer()) return true;
     if (controle != nullptr && controle->Prendre_entree()) {
         auto caractere = static_cast<wchar_t>(Touche::entree);
         controle->KeyPress(caractere);
-        return true;
+        // Taken by the handler, which may have closed the window; left to the window otherwise.
+        if (caractere == 0 || Fenetre_de_poignee(poignee) == nullptr) return true;
     }
     if (fenetre.defaut_ != nullptr) fenetre.defaut_->Cliquer();
     return true;

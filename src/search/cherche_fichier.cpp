@@ -1,0 +1,226 @@
+#include "search/cherche_fichier.h"
+
+#include "app/fenetre_fille.h"
+#include "app/fenetres.h"
+#include "app/garde.h"
+#include "app/globals.h"
+#include "app/routines.h"
+#include "forms/cde_chercher.h"
+#include "forms/cherche_fichier.h"
+#include "forms/gestion_fichiers.h"
+#include "platform/systeme.h"
+#include "platform/textes.h"
+#include "search/arborescence.h"
+#include "search/astuce_resultats.h"
+#include "search/modeles.h"
+#include "search/recherche.h"
+#include "toolkit/application.h"
+#include "toolkit/boites.h"
+
+#include <utility>
+
+namespace {
+constexpr int           a_droite           = 4350;  // twips from the main window's corner
+constexpr int           en_bas             = 1100;
+constexpr double        largeur_repertoire = 3510;  // twips that a path may take on the progress line
+constexpr std::uint64_t entre_affichages   = 100;   // ms
+constexpr std::size_t   lot_maximal = 2000;  // entries added at once: the stop button waits for no more
+
+struct Fenetre_recherche : Cherche_Fichier {
+    bool                      active = false;  // walking or searching
+    std::vector<std::wstring> choisis;
+};
+
+// What the window shows of a walk or a search, brought up to date about ten times a second.
+class Avancement {
+public:
+    explicit Avancement(Fenetre_recherche & c) : c_(c) {}
+
+    std::size_t Nombre() const { return nombre_; }
+
+    bool Continuer_parcours(const Arbre & arbre, std::size_t index) {
+        if (Echeance()) {
+            variables.Texte_chemin = arbre.Chemin(index);
+            Raccourcir_chemin(c_, largeur_repertoire);
+            c_.Mess_infos.Caption(variables.Texte_chemin);
+        }
+        return Poursuivre();
+    }
+
+    bool Continuer_recherche() {
+        if (Echeance()) Montrer();
+        return Poursuivre();
+    }
+
+    void Ajouter(const std::wstring & chemin) {
+        ++nombre_;
+        en_attente_.push_back(chemin);
+        if (en_attente_.size() >= lot_maximal) Montrer();
+    }
+
+    void Montrer() {
+        c_.Liste_sél.Ajouter(en_attente_);
+        en_attente_.clear();
+        c_.Mess_infos.Caption(Libelle_trouves(nombre_));
+    }
+
+private:
+    bool Echeance() {
+        const std::uint64_t maintenant = Horloge_ms();
+        if (dernier_ != 0 && maintenant - dernier_ < entre_affichages) return false;
+        dernier_ = maintenant;
+        return true;
+    }
+
+    static bool Poursuivre() {
+        Application::Laisser_passer();
+        return !variables.Recherche_annulee && !Application::Terminee();
+    }
+
+    Fenetre_recherche &       c_;
+    std::vector<std::wstring> en_attente_;
+    std::size_t               nombre_  = 0;
+    std::uint64_t             dernier_ = 0;  // Horloge_ms of the last update, 0 before the first
+};
+
+void Fermer(Fenetre_recherche & c) {
+    Fermer_fille(c);
+    c.Liste_sél.Clear();
+    c.Caption(Cherche_Fichier::titre_attente);
+}
+
+// Cancels the search under way, which closes the window when it has come to its end: the main window must not take input while it
+// still runs. Otherwise closes the window without keeping anything.
+void Annule_Click(Fenetre_recherche & c) {
+    variables.Recherche_annulee = true;
+    variables.Nombre_trouves    = 0;
+    c.choisis.clear();
+    if (!c.active) Fermer(c);
+}
+
+// After the end of a search, whatever ended it.
+void Terminer(Fenetre_recherche & c) {
+    c.active = false;
+    if (variables.Recherche_annulee && c.Montree()) Fermer(c);
+}
+
+void OK_Click(Fenetre_recherche & c) {
+    const Application::Sablier sablier;
+    for (const int index : c.Liste_sél.Selection()) c.choisis.push_back(c.Liste_sél.List(index));
+    Fermer(c);
+}
+
+// False when the user cancelled.
+bool Lire_arborescence(Fenetre_recherche & c, const std::wstring & unite) {
+    if (Arborescence_valide(unite)) return true;
+    Avancement avancement(c);
+    return Relever_arborescence(unite, [&](const Arbre & arbre, std::size_t index) {
+        return avancement.Continuer_parcours(arbre, index);
+    });
+}
+
+void Signaler_rien(Fenetre_recherche & c, const std::wstring & unite) {
+    Message_boite(Libelle_rien(variables.Modele_cherche, Majuscules(unite)), Boite::ok | Boite::information,
+                  titre_gestionnaire);
+    Annule_Click(c);
+}
+
+void Proposer_choix(Fenetre_recherche & c) {
+    c.Caption(L"Sélectionnez le(s) fichier(s)");
+    c.OK.Enabled(true);
+    c.OK.Visible(true);
+    c.Liste_sél.SetFocus();
+}
+
+void Chercher(Fenetre_recherche & c) {
+    const Gestion_Fichiers & f      = Principale();
+    const auto &             cde    = static_cast<const Cde_Chercher &>(*fenetres.cde_chercher);
+    const std::wstring       unite  = f.Unité_srce.Drive().substr(0, 2);
+    const bool               caches = f.Fichier_srce.Hidden();
+    c.Recherche.Caption(Majuscules(variables.Modele_cherche));
+    if (!Lire_arborescence(c, unite)) return;
+    c.Mess_infos.Caption(Libelle_trouves(0));
+    Application::Laisser_passer(true);
+    Avancement            avancement(c);
+    const Bilan_recherche bilan = Rechercher(
+        {variables.Modele_cherche, cde.Fichiers_exclus.Text(), caches},
+        [&](const std::wstring & chemin) { avancement.Ajouter(chemin); },
+        [&] { return avancement.Continuer_recherche(); });
+    if (!bilan.entiere || variables.Recherche_annulee) return;
+    avancement.Montrer();
+    Noter_sautes(bilan.sautes);
+    c.active                  = false;
+    variables.Recherche_faite = true;
+    Bip();
+    if (avancement.Nombre() == 0)
+        Signaler_rien(c, unite);
+    else
+        Proposer_choix(c);
+}
+
+void Commencer(Fenetre_recherche & c) {
+    if (!variables.Recherche_en_cours || !c.Montree()) return;
+    variables.Recherche_en_cours = false;
+    variables.Recherche_annulee  = false;
+    c.active                     = true;
+    Pieger(
+        L"CHERCHER", [&c] { Chercher(c); },
+        [&c] {
+            Annule_Click(c);
+            Terminer(c);
+        });
+    Terminer(c);
+}
+
+void Annule_GotFocus(Fenetre_recherche & c) {
+    // The window is still being shown: a search started here would let it wait for its first drawing.
+    if (variables.Recherche_en_cours) c.Apres_evenement([&c] { Commencer(c); });
+}
+
+void Liste_sél_GotFocus(Fenetre_recherche & c) {
+    if (!variables.Recherche_faite) c.Annule.SetFocus();
+}
+
+void Brancher(Fenetre_recherche & c) {
+    Brancher_fille(c, aide_cherche_fichier);
+    Brancher_astuce_resultats(c);
+    c.Annule.GotFocus    = [&c] { Annule_GotFocus(c); };
+    c.Liste_sél.GotFocus = [&c] { Liste_sél_GotFocus(c); };
+    c.OK.Brancher([&c] { OK_Click(c); });
+    c.Annule.Brancher([&c] { Annule_Click(c); });
+    c.Defaut(c.OK);
+    c.Annulation(c.Annule);
+}
+
+Fenetre_recherche & Fenetre_resultats() {
+    if (!fenetres.cherche_fichier) {
+        auto neuve = std::make_unique<Fenetre_recherche>();
+        Brancher(*neuve);
+        fenetres.cherche_fichier = std::move(neuve);
+    }
+    return static_cast<Fenetre_recherche &>(*fenetres.cherche_fichier);
+}
+
+Fenetre_recherche & Preparer() {
+    const Application::Sablier sablier;
+    Fenetre_recherche &        c = Fenetre_resultats();
+    variables.Recherche_faite    = false;
+    c.choisis.clear();
+    c.Recherche.Caption(L"");
+    c.Mess_infos.Caption(L"");
+    Noter_sautes(0);
+    c.Tip.Visible(false);
+    c.OK.Enabled(false);
+    c.OK.Visible(false);
+    c.Annule.SetFocus();
+    const int bordure = static_cast<int>(15 * variables.Bordure);
+    Placer_fille(c, a_droite + bordure, en_bas + bordure);
+    return c;
+}
+}  // namespace
+
+std::vector<std::wstring> Chercher_fichiers() {
+    Fenetre_recherche & c = Preparer();
+    c.Show_modal(Principale());
+    return std::exchange(c.choisis, {});
+}

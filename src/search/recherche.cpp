@@ -1,0 +1,61 @@
+#include "search/recherche.h"
+
+#include "platform/chemins.h"
+#include "platform/erreur.h"
+#include "platform/fichiers.h"
+#include "platform/parcours.h"
+#include "platform/textes.h"
+#include "search/arborescence.h"
+#include "search/modeles.h"
+
+namespace {
+constexpr std::size_t entre_deux_regards = 256;  // entries of one directory between two questions
+
+// Which names are looked for.
+class Filtre {
+public:
+    explicit Filtre(const Demande_recherche & demande)
+        : motifs_(Motifs::Un_seul(demande.modele, Majuscule)), exclusion_(demande.exclus, Majuscule),
+          attributs_exclus_(demande.caches ? 0 : Attribut::cache) {}
+
+    bool Retient(const Entree_vue & entree) const {
+        return !entree.repertoire && (entree.attributs & attributs_exclus_) == 0 &&
+               motifs_.Accepte(entree.nom) && !exclusion_.Exclut(entree.nom);
+    }
+
+private:
+    Motifs        motifs_;
+    Exclusion     exclusion_;
+    std::uint32_t attributs_exclus_;
+};
+
+std::wstring En_minuscules(const std::wstring & chemin) {
+    return Minuscules_sures(chemin, Minuscules(chemin), Majuscule);
+}
+}  // namespace
+
+Bilan_recherche Rechercher(const Demande_recherche &                         demande,
+                           const std::function<void(const std::wstring &)> & trouver,
+                           const std::function<bool()> &                     continuer) {
+    const Arbre &   arbre = Arborescence();
+    const Filtre    filtre(demande);
+    Bilan_recherche bilan;
+    std::wstring    repertoire;
+    std::size_t     vus     = 0;
+    const auto      visiter = [&](const Entree_vue & entree) {
+        if (filtre.Retient(entree)) trouver(En_minuscules(Joindre(repertoire, entree.nom)));
+        return ++vus % entre_deux_regards != 0 || continuer();
+    };
+    for (std::size_t i = 0; i < arbre.Nombre(); ++i) {
+        if (!continuer()) return bilan;
+        repertoire = arbre.Chemin(i);
+        try {
+            if (!Enumerer(repertoire, visiter)) return bilan;
+        } catch (const Erreur_execution &) {
+            if (i == 0) throw;
+            ++bilan.sautes;
+        }
+    }
+    bilan.entiere = true;
+    return bilan;
+}
