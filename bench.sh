@@ -7,7 +7,7 @@ source outils/wine.sh
 
 ./outils/installer.sh construire executer essais
 cmake --preset windows-x64 >build/banc-configuration.txt 2>&1 || { cat build/banc-configuration.txt; exit 1; }
-cmake --build --preset windows-x64 --target KORVANE banc gardien
+cmake --build --preset windows-x64 --target KORVANE banc banc_corbeille gardien
 
 travail=$PWD/build/banc
 rm -rf "$travail"
@@ -20,6 +20,11 @@ for i in range(100000):
     with open(f"{sys.argv[1]}/fichier {i * 7919 % 100000:06d}.txt", "wb") as f:
         f.write(b"x" * (i % 50))
 FIN
+# A directory has a thousand coded names a day.
+for repertoire in "$travail/corbeille/corbeille"{0..9}; do
+    mkdir -p "$repertoire"
+    (cd "$repertoire" && for rang in {0..499}; do printf 'seize caracteres' >"fichier $rang.txt"; done)
+done
 cp build/windows-x64/KORVANE.EXE "$travail/programme/"
 printf '[Options]\r\nIconis\xe9=Oui\r\n' >"$travail/programme/KORVANE.INI"
 
@@ -35,6 +40,9 @@ outils/prefixe.sh chauffer "$WINEPREFIX" build/windows-x64/gardien.exe
 en_wine() { echo "z:${1//\//\\}"; }
 lancer_wine 900 "$travail/resultats.txt" build/windows-x64/banc.exe "$(en_wine "$travail/cent_mille")" \
     "$(en_wine "$travail/travail")" "$(en_wine "$travail/programme/KORVANE.EXE")" || echo "mesures incomplètes" >>"$travail/resultats.txt"
+lancer_wine 300 "$travail/corbeille.txt" build/windows-x64/banc_corbeille.exe "$(en_wine "$travail/corbeille")" ||
+    echo "mesures incomplètes" >>"$travail/corbeille.txt"
+cat "$travail/corbeille.txt" >>"$travail/resultats.txt"
 
 # The system's own counters know no private bytes here: the kernel's do.
 (cd "$travail/programme" && lancer_wine 30 /dev/null ./KORVANE.EXE) &

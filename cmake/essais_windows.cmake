@@ -14,6 +14,12 @@ if(pilote AND TARGET gtest)
     target_link_libraries(pilote PUBLIC reglages GTest::gtest gdi32 user32 shell32)
 endif()
 
+# Programs cut at their calls to the system.
+file(GLOB coupures CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/coupures/*.cpp")
+add_library(coupures STATIC ${coupures})
+target_include_directories(coupures PUBLIC "${CMAKE_SOURCE_DIR}/tests")
+target_link_libraries(coupures PUBLIC gestionnaire boite_a_outils services)
+
 # One small program a file: stand-ins for what the program starts, keepers of the desktop, demonstrations.
 file(GLOB outils CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/outils_windows/*.cpp")
 foreach(source IN LISTS outils)
@@ -29,6 +35,10 @@ endforeach()
 if(TARGET vitrine)
     target_link_libraries(vitrine PRIVATE gestionnaire boite_a_outils services)
 endif()
+# This one does what the program does to files.
+if(TARGET coupeur)
+    target_link_libraries(coupeur PRIVATE coupures)
+endif()
 
 if(NOT TARGET gtest)
     return()
@@ -38,7 +48,8 @@ file(GLOB essais CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/services/*.cpp")
 if(essais)
     add_executable(tests_services ${essais})
     target_include_directories(tests_services PRIVATE "${CMAKE_SOURCE_DIR}/tests")
-    target_link_libraries(tests_services PRIVATE gestionnaire boite_a_outils services logique GTest::gtest_main)
+    target_link_libraries(tests_services PRIVATE coupures gestionnaire boite_a_outils services logique GTest::gtest_main)
+    add_dependencies(tests_services coupeur)
 endif()
 
 file(GLOB essais CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/fenetres/*.cpp")

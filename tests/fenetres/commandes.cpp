@@ -68,6 +68,23 @@ void Commandes::Attendre_confirmation(const std::wstring & commande, const std::
                    style, reponse);
 }
 
+void Commandes::Attendre_rapport(int numero, unsigned code, const std::wstring & commande,
+                                 const std::wstring & repertoire_source,
+                                 const std::wstring & repertoire_destination) {
+    wchar_t systeme[512] = L"";
+    FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, systeme, 512,
+                   nullptr);
+    std::wstring texte = systeme;
+    texte.erase(texte.find_last_not_of(L"\r\n ") + 1);
+    const std::wstring genre = Se_voit(L"Créer") ? L" (répertoire)" : L" (fichier)";
+    Attendre_boite(L"Erreur détectée par KORVANE",
+                   L"Veuillez noter et transmettre à l'auteur. Merci\r\r" + texte + L" (code = " +
+                       std::to_wstring(numero) + L")\rCommande: " + commande + genre + L"\rSource: " +
+                       repertoire_source + L"\rDestination: " + repertoire_destination +
+                       L"\rEditeur: NOTEPAD.EXE\rVisualiseur: PELMIRA.EXE",
+                   rapport, IDOK);
+}
+
 void Commandes::Attendre_manque_de_place(const std::wstring & commande, const std::wstring & unite,
                                          int reponse) {
     Attendre_boite(commande,

@@ -35,6 +35,9 @@ protected:
                                const std::wstring & repertoire, int reponse);
     void Attendre_confirmation(const std::wstring & commande, const std::wstring & fichier,
                                const std::wstring & repertoire_destination, unsigned style, int reponse);
+    // The report of an error that no message is worded for: `code` is what the system answered.
+    void Attendre_rapport(int numero, unsigned code, const std::wstring & commande,
+                          const std::wstring & source, const std::wstring & destination);
     void Attendre_manque_de_place(const std::wstring & commande, const std::wstring & unite, int reponse);
 
     // The command is over: title and swap button are back, no progress is shown, nothing is selected, the button that

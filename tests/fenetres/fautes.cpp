@@ -1,4 +1,5 @@
 #include "fenetres/commandes.h"
+#include "fenetres/obstacles.h"
 
 #include <utility>
 #include <vector>
@@ -49,38 +50,6 @@ private:
     }
 
     HANDLE fichier_;
-};
-
-// Another program holds the file for itself.
-class Verrou {
-public:
-    explicit Verrou(const std::wstring & chemin)
-        : poignee_(CreateFileW(chemin.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr)) {}
-    ~Verrou() { CloseHandle(poignee_); }
-    Verrou(const Verrou &)             = delete;
-    Verrou & operator=(const Verrou &) = delete;
-
-private:
-    HANDLE poignee_;
-};
-
-// Every thread of the program stands still while it lives.
-class Suspension {
-public:
-    explicit Suspension(HANDLE processus) : processus_(processus) { Appeler("NtSuspendProcess"); }
-    ~Suspension() { Appeler("NtResumeProcess"); }
-    Suspension(const Suspension &)             = delete;
-    Suspension & operator=(const Suspension &) = delete;
-
-private:
-    void Appeler(const char * service) const {
-        using Service = LONG(NTAPI *)(HANDLE);
-        const auto adresse =
-            reinterpret_cast<void *>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), service));
-        reinterpret_cast<Service>(adresse)(processus_);
-    }
-
-    HANDLE processus_;
 };
 
 }  // namespace

@@ -104,17 +104,30 @@ TEST_F(Reglages, la_taille_de_la_corbeille_l_emporte_sur_le_temps) {
 }
 
 TEST_F(Reglages, le_temps_seul_limite_la_corbeille_a_trois_chiffres) {
-    struct Cas {
-        const char * valeur;
-        int          jours;
-    };
-    for (const Cas & cas : {Cas{"30", 30}, Cas{"9999", 999}, Cas{"x", 0}, Cas{"7 jours", 7}}) {
-        variables.Corbeille_active = false;
-        Ecrire("Corbeille", std::string("Temps=") + cas.valeur);
+    for (const auto & [valeur, jours] : {std::pair{"1", 1}, {"30", 30}, {"007", 7}, {"9999", 999}}) {
+        Ecrire("Corbeille", std::string("Temps=") + valeur);
         Lire_limites_corbeille();
-        EXPECT_TRUE(variables.Corbeille_active) << cas.valeur;
-        EXPECT_EQ(variables.Temps_corbeille, cas.jours) << cas.valeur;
+        EXPECT_TRUE(variables.Corbeille_active) << valeur;
+        EXPECT_FALSE(variables.Limite_corbeille_incorrecte) << valeur;
+        EXPECT_EQ(variables.Temps_corbeille, jours) << valeur;
     }
+}
+
+TEST_F(Reglages, une_limite_qui_n_est_pas_un_nombre_laisse_la_corbeille_en_service_sans_limite) {
+    for (const char * cle : {"Taille", "Temps"}) {
+        for (const char * valeur : {"0", "000", "x", "7 j", "-5", "+5", "1.5", "5k", "1e3"}) {
+            Ecrire("Corbeille", std::string(cle) + "=" + valeur);
+            Lire_limites_corbeille();
+            EXPECT_TRUE(variables.Corbeille_active) << cle << valeur;
+            EXPECT_TRUE(variables.Limite_corbeille_incorrecte) << cle << valeur;
+            EXPECT_EQ(variables.Taille_corbeille, 0) << cle << valeur;
+            EXPECT_EQ(variables.Temps_corbeille, 0) << cle << valeur;
+        }
+    }
+    Ecrire("Corbeille", "Taille=9999");
+    Lire_limites_corbeille();
+    EXPECT_FALSE(variables.Limite_corbeille_incorrecte);
+    EXPECT_EQ(variables.Taille_corbeille, 9999);
 }
 
 TEST_F(Reglages, les_cles_gardent_l_ordre_du_fichier) {

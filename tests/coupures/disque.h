@@ -1,0 +1,32 @@
+#pragma once
+#include "platform/windows.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+// What a program that dies leaves behind: handles to be closed, and for each file what a power cut would leave of it.
+class Disque {
+public:
+    void Oublier();
+    void Ouvre(HANDLE poignee, const std::wstring & chemin, bool directe);  // directe: writes pass the cache
+    void Cherche(HANDLE poignee) { recherches_.push_back(poignee); }
+    void Va_ecrire(HANDLE poignee);
+    void Fixe(HANDLE poignee);
+    void Renomme(const std::wstring & de, const std::wstring & a);
+    void Supprime(const std::wstring & chemin);
+    void Ferme(HANDLE poignee);
+    void Finit_recherche(HANDLE poignee) { std::erase(recherches_, poignee); }
+    void Tout_fermer();
+    // Files get back what was last flushed. Names are kept: the system writes its journal of names in order.
+    void Couper_courant();
+
+private:
+    struct Ouverture {
+        std::wstring chemin;
+        bool         directe = false;
+    };
+    std::map<HANDLE, Ouverture>         ouverts_;
+    std::vector<HANDLE>                 recherches_;
+    std::map<std::wstring, std::string> durables_;  // of files with writes not flushed
+};

@@ -1,0 +1,156 @@
+#include "fenetres/corbeille.h"
+#include "fenetres/systeme_hote.h"
+
+using namespace Pilote;
+using Textes = std::vector<std::wstring>;
+
+TEST_F(Corbeille,
+       la_fenetre_s_ouvre_a_sa_place_et_montre_les_fichiers_du_plus_ancien_au_plus_recent_et_les_limites) {
+    Mettre(Source(L"z dernier lundi.txt"), 10, 1, 45000, 1);
+    Mettre(Destination(L"été.doc"), 20, 2, 45001, 0);
+    Mettre(Source(L"sous\\a.txt"), 30, 3, 45001, 999);
+    const auto fille = Ouvrir_corbeille();
+    Verifier_place(fille, 1500, 440);
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé"),
+              (Textes{Source(L"z dernier lundi.txt"), Destination(L"été.doc"), Source(L"sous\\a.txt")}));
+    EXPECT_EQ(fille.Choisies(L"Fichier_effacé"), Textes{});
+    EXPECT_EQ(fille.Lire(L"Taille"), L"9999");
+    EXPECT_EQ(fille.Lire(L"Temps"), L"");
+    EXPECT_FALSE(Sablier());
+    EXPECT_FALSE(Active(Principale()));
+    Terminer(fille);
+    EXPECT_EQ(Lignes_index(), Lignes());
+    EXPECT_EQ(Nom_du_focus(), L"Corbeille");
+    Verifier_principale_utilisable();
+}
+
+TEST_F(Corbeille, deux_fichiers_du_meme_nom_et_du_meme_repertoire_sont_montres_tous_les_deux) {
+    Mettre(Source(L"a.txt"), 10, 1, 45000, 1);
+    Mettre(Source(L"a.txt"), 20, 2, 45000, 2);
+    const auto fille = Ouvrir_corbeille();
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), (Textes{Source(L"a.txt"), Source(L"a.txt")}));
+    fille.Choisir(L"Fichier_effacé", {1});
+    fille.Cliquer(L"Récupérer");
+    ATTENDRE(fille.Entrees(L"Fichier_effacé") == Textes{Source(L"a.txt")});
+    Verifier_recupere(Source(L"a.txt"), 20, 2);
+    EXPECT_TRUE(En_corbeille(source, 45000, 1));
+}
+
+TEST_F(Corbeille, une_corbeille_non_utilisee_s_ouvre_vide_et_sans_limite) {
+    Ne_pas_regler(L"Corbeille", L"Taille");
+    Mettre(Source(L"a.txt"), 10, 1, 45000, 1);
+    const auto fille = Ouvrir_corbeille();
+    for (const wchar_t * vide : {L"Taille", L"Temps"}) EXPECT_EQ(fille.Lire(vide), L"") << Utf8(vide);
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), Textes{});
+    Terminer(fille);
+    EXPECT_EQ(Lignes_index(), Lignes());
+    EXPECT_TRUE(En_corbeille(source, 45000, 1));
+}
+
+TEST_F(Corbeille, les_lignes_etrangeres_ne_sont_pas_montrees_et_restent_dans_l_index) {
+    Ajouter_ligne("; écrit par un autre programme");
+    Mettre(Source(L"a.txt"), 10, 1, 45000, 1);
+    Ajouter_ligne("crb45000.00 trop court");
+    Ajouter_ligne("");
+    Mettre(Source(L"b.txt"), 20, 2, 45001, 2);
+    Ajouter_ligne("crb45000.003 0000000x c.txt C:\\");
+    const auto fille = Ouvrir_corbeille();
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), (Textes{Source(L"a.txt"), Source(L"b.txt")}));
+    fille.Choisir(L"Fichier_effacé", {0});
+    fille.Cliquer(L"Récupérer");
+    ATTENDRE(fille.Entrees(L"Fichier_effacé") == Textes{Source(L"b.txt")});
+    Verifier_recupere(Source(L"a.txt"), 10, 1);
+    Terminer(fille);
+    auto attendues = Lignes();
+    attendues.erase(attendues.begin() + 1);
+    EXPECT_EQ(Lignes_index(), attendues);
+    EXPECT_TRUE(Attributs(index) & FILE_ATTRIBUTE_HIDDEN);
+}
+
+TEST_F(Corbeille, la_fenetre_se_parcourt_au_clavier_et_chaque_bouton_a_sa_lettre) {
+    Mettre(Source(L"a.txt"), 10, 1, 45000, 1);
+    const auto fille = Ouvrir_corbeille();
+    fille.Choisir(L"Fichier_effacé", {0});
+    Verifier_clavier_et_disposition(fille, {L"Fichier_effacé", L"Récupérer", L"Taille", L"Temps", L"Fin"});
+    for (const wchar_t * bouton : {L"Récupérer", L"Fin"})
+        EXPECT_NE(fille.Lire(bouton).find(L'&'), std::wstring::npos) << Utf8(bouton);
+}
+
+TEST_F(Corbeille, la_lettre_du_bouton_l_ouvre_et_trois_gestes_la_ferment) {
+    const std::function<void(const Pilote::Fille &)> gestes[] = {
+        [](const Pilote::Fille & fille) { fille.Cliquer(L"Fin"); },
+        [](const Pilote::Fille &) { Frapper(VK_ESCAPE); },
+        [](const Pilote::Fille & fille) { fille.Fermer_par_la_croix(); },
+    };
+    Ecrire_index();
+    Lancer_dans_les_dossiers();
+    for (const auto & geste : gestes) {
+        Alt(L'b');
+        const auto fille = Fenetre_corbeille();
+        fille.Attendre_ouverte();
+        geste(fille);
+        fille.Attendre_fermee();
+        ATTENDRE(Active(Principale()) && GetForegroundWindow() == Principale());
+        EXPECT_EQ(Cle(L"Taille"), L"9999");
+    }
+    Verifier_principale_utilisable();
+}
+
+TEST_F(Corbeille, l_aide_dit_l_usage_de_chaque_element_et_se_rappelle_a_la_fermeture) {
+    Mettre(Source(L"a.txt"), 10, 1, 45000, 1);
+    Ecrire_index();
+    Lancer_dans_les_dossiers();
+    Activer_aide();
+    const auto fille = Rouvrir_corbeille();
+    fille.Choisir(L"Fichier_effacé", {0});
+    Verifier_aide(fille, {});
+    const std::pair<const wchar_t *, const wchar_t *> extraits[] = {
+        {L"Taille", L"1 à 9999, exprimée en Kilo-octets de 1024 caractères"},
+        {L"Temps", L"nombre de jours calendaires (1 à 999)"},
+        {L"Fichier_effacé", L"Un double clic sur un fichier équivaut à l'appui du bouton 'Récupérer'."},
+    };
+    for (const auto & [controle, extrait] : extraits) {
+        Pointer(fille.Controle(controle));
+        EXPECT_TRUE(Attendre([&] { return Lire(L"Fenêtre").find(extrait) != std::wstring::npos; }))
+            << Utf8(Lire(L"Fenêtre"));
+    }
+    Frapper(VK_ESCAPE);
+    fille.Attendre_fermee();
+    Attendre_rappel_aide();
+}
+
+TEST_F(Corbeille, f1_dans_la_fenetre_met_l_aide_et_l_arrete) {
+    const auto fille   = Ouvrir_corbeille();
+    const LONG normale = Hauteur_principale();
+    Activer_aide();
+    Frapper(VK_F1);
+    ATTENDRE(Hauteur_principale() == normale && Lire(L"Fenêtre").empty());
+    Terminer(fille);
+}
+
+TEST_F(Corbeille, cinq_mille_fichiers_sont_tous_montres_et_une_moitie_se_recupere_d_un_coup) {
+    constexpr int     jours = 5, tirages = 1000;
+    const std::string repertoire = Utf8(source) + "\\";
+    ASSERT_TRUE(Sur_hote(source, L"for j in 1 2 3 4 5; do seq -f crb4500$j.%03g 0 999; done | xargs touch"));
+    for (int i = 0; i < jours * tirages; ++i) {
+        char ligne[300];
+        std::snprintf(ligne, sizeof ligne, "crb4500%d.%03d 00000000 f%04d.txt %s", 1 + i / tirages,
+                      i % tirages, i, repertoire.c_str());
+        Ajouter_ligne(ligne);
+    }
+    const auto fille = Ouvrir_corbeille();
+    const HWND liste = fille.Controle(L"Fichier_effacé");
+    EXPECT_EQ(Nombre_entrees(liste), jours * tirages);
+    EXPECT_EQ(Entree(liste, 4999), Source(L"f4999.txt"));
+    Pilote::Cliquer(Point_entree(liste, 2500));
+    Frapper_avec(VK_SHIFT, VK_END);
+    ATTENDRE(Nombre_selection(liste) == 2500);
+    fille.Cliquer(L"Récupérer");
+    EXPECT_TRUE(Attendre([&] { return Nombre_entrees(liste) == 2500 && !Sablier(); }, 30000));
+    EXPECT_EQ(Entree(liste, 2499), Source(L"f2499.txt"));
+    const auto toutes = Lignes();
+    EXPECT_EQ(Lignes_index(), std::vector<std::string>(toutes.begin(), toutes.begin() + 2500));
+    EXPECT_TRUE(Existe(Source(L"f4999.txt")) && Existe(Source(L"f2500.txt")) &&
+                !Existe(Source(L"f2499.txt")));
+    EXPECT_EQ(Nombre_entrees(Controle(L"Fichier_srce")), 5000);  // those still in the bin are not hidden here
+}

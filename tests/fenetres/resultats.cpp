@@ -1,0 +1,296 @@
+#include "fenetres/recherche.h"
+
+#include <functional>
+
+using namespace Pilote;
+using Textes = std::vector<std::wstring>;
+
+// The files of a search in the SOURCE pane: what leaves them, what counts them, what commands do with them.
+class Resultats_D : public Recherche {
+protected:
+    static constexpr const wchar_t * trois_comptes =
+        L"   3 fichiers sélectionnés, total = 1\u00A0230 octets.";
+
+    Resultats_D() {
+        Creer_d(L"un\\a.txt", 1000);
+        Creer_d(L"un\\b.txt", 200);
+        Creer_d(L"un\\dessous\\c.txt", 30);
+        Creer_d(L"vers\\lisez.moi", 5);
+    }
+    const Textes trois = {L"d:\\un\\a.txt", L"d:\\un\\b.txt", L"d:\\un\\dessous\\c.txt"};
+
+    void Porter(const std::wstring & modele, const Textes & attendus) {
+        const auto resultats = Chercher(modele, attendus);
+        Frapper_avec(VK_CONTROL, 'A');
+        ATTENDRE(resultats.Choisies(L"Liste_sél") == attendus);
+        resultats.Cliquer(L"OK");
+        resultats.Attendre_fermee();
+        Attendre_fin_commande();
+        ATTENDRE(Se_voit(L"Fichier_sél"));
+    }
+    // Both panes on D:, the three files in SOURCE, D:\vers in DESTINATION.
+    void Lancer_avec_trois() {
+        Lancer_sur_d();
+        Ouvrir(L"dest", L"d:\\vers");
+        Porter(L".txt", trois);
+        Verifier_resultats_dans_source(trois, trois_comptes);
+    }
+    void Restent(const Textes & entrees, const Textes & choisies, const std::wstring & ligne) {
+        Attendre_fin_commande();
+        EXPECT_TRUE(Se_voit(L"Fichier_sél"));
+        EXPECT_FALSE(Se_voit(L"Fichier_srce"));
+        EXPECT_EQ(Entrees(L"Fichier_sél"), entrees);
+        EXPECT_EQ(Choisies(L"Fichier_sél"), choisies);
+        EXPECT_EQ(Lire(L"Ligne_message"), ligne);
+    }
+    void Introuvable(const std::wstring & fichier_capitales) {
+        Attendre_avertissement(L"Un nom de fichier comporte un caractère invalide ou bien le fichier " +
+                               fichier_capitales +
+                               L" est introuvable ou les attributs 'Système/Caché' sont présents.");
+    }
+    POINT Entree_resultat(int rang) const { return Point_entree(Controle(L"Fichier_sél"), rang); }
+};
+
+TEST_F(Resultats_D, copier_est_possible_meme_si_le_repertoire_source_n_a_pas_de_fichier) {
+    Lancer_sur_d();
+    ASSERT_FALSE(Est_actif(L"Copier"));
+    Porter(L".txt", trois);
+    Verifier_resultats_dans_source(trois, trois_comptes);
+    EXPECT_TRUE(Est_actif(L"Copier"));
+    Cliquer(L"Quitter");
+    Verifier_sans_resultats();
+    EXPECT_FALSE(Est_actif(L"Copier"));
+}
+
+TEST_F(Resultats_D, ce_qui_relit_la_source_quitte_les_resultats) {
+    struct Cas {
+        const char *          nom;
+        std::function<void()> geste;
+        std::function<bool()> attendu;
+    };
+    Lancer_sur_d();
+    Ouvrir(L"dest", L"d:\\vers");
+    const Cas cas[] = {
+        {"Quitter", [&] { Cliquer(L"Quitter"); }, [&] { return Lire(L"Chemin_srce").size() == 3; }},
+        {"la croix", [&] { PostMessageW(Principale(), WM_SYSCOMMAND, SC_CLOSE, 0); },
+         [&] { return Lire(L"Chemin_srce").size() == 3; }},
+        {"l'unité validée",
+         [&] {
+             Cliquer(L"Unité_srce");
+             Frapper(VK_ESCAPE);
+             Frapper(VK_RETURN);
+         },
+         [&] { return true; }},
+        {"une autre unité", [&] { Choisir_unite(L"Unité_srce", L'c'); },
+         [&] { return Lire(L"Unité_srce")[0] == L'c'; }},
+        {"un chemin tapé",
+         [&] {
+             Remplacer_texte(L"Chemin_srce", L"d:\\un");
+             Frapper(VK_RETURN);
+         },
+         [&] { return Lire(L"Unité_srce")[0] == L'd'; }},
+        {"le modèle", [&] { Remplacer_texte(L"Sélection_fichiers", L"*.moi"); }, [&] { return true; }},
+        {"permuter", [&] { Cliquer(L"Croiser"); },
+         [&] { return Entrees(L"Fichier_srce") == Textes{L"lisez.moi"}; }},
+        {"permuter encore", [&] { Cliquer(L"Croiser"); }, [&] { return Entrees(L"Fichier_srce").empty(); }},
+        {"le mode", [&] { Cliquer(L"Mode"); }, [&] { return Lire(L"Mode") == L" &Mode fichier"; }},
+    };
+    for (const Cas & c : cas) {
+        SCOPED_TRACE(c.nom);
+        Porter(L".txt", trois);
+        Verifier_resultats_dans_source(trois, trois_comptes);
+        c.geste();
+        ATTENDRE(Se_voit(L"Fichier_srce"));
+        ATTENDRE(c.attendu());
+        Verifier_sans_resultats();
+        EXPECT_TRUE(Boite_absente());
+        if (HasFailure()) return;  // the next ones begin where this one was to end
+        if (Lire(L"Unité_srce")[0] == L'c') Choisir_unite(L"Unité_srce", L'd');
+    }
+}
+
+TEST_F(Resultats_D, un_clic_sur_un_repertoire_source_quitte_les_resultats_et_choisit_son_premier_fichier) {
+    Lancer_avec_trois();
+    Cliquer_entree(L"Répertoire_srce", L"vers");
+    ATTENDRE(Lire(L"Ligne_message") == L"   1 fichier sélectionné, total = 5 octets.");
+    EXPECT_TRUE(Se_voit(L"Fichier_srce"));
+    EXPECT_FALSE(Se_voit(L"Fichier_sél"));
+    EXPECT_EQ(Choisies(), Textes{L"lisez.moi"});
+    // The directory that is open is read again, and shows its files too.
+    Porter(L".txt", trois);
+    Cliquer_entree(L"Répertoire_srce", L"vers");
+    ATTENDRE(Se_voit(L"Fichier_srce"));
+    EXPECT_EQ(Entrees(L"Fichier_sél"), Textes{});
+}
+
+TEST_F(Resultats_D, choisir_une_destination_garde_les_resultats_et_leur_selection) {
+    Lancer_avec_trois();
+    Cliquer_entree(L"Répertoire_dest", L"d:\\");
+    ATTENDRE(Lire(L"Chemin_dest").size() == 3);
+    Verifier_resultats_dans_source(trois, trois_comptes);
+    Cliquer_entree(L"Répertoire_dest", L"d:\\");
+    Reposer(Principale());
+    Verifier_resultats_dans_source(trois, trois_comptes);
+    Choisir_unite(L"Unité_dest", L'c');
+    ATTENDRE(Lire(L"Unité_dest")[0] == L'c');
+    Verifier_resultats_dans_source(trois, trois_comptes);
+}
+
+TEST_F(Resultats_D, les_clics_choisissent_parmi_les_resultats_et_le_compte_suit) {
+    Lancer_avec_trois();
+    const HWND liste = Controle(L"Fichier_sél");
+    Cliquer_entree(L"Fichier_sél", L"d:\\un\\b.txt");
+    ATTENDRE(Lire(L"Ligne_message") == L"   1 fichier sélectionné, total = 200 octets.");
+    Cliquer_avec(VK_CONTROL, Entree_resultat(2), liste);
+    ATTENDRE(Lire(L"Ligne_message") == L"   2 fichiers sélectionnés, total = 230 octets.");
+    Cliquer_avec(VK_CONTROL, Entree_resultat(1), liste);
+    Cliquer_avec(VK_CONTROL, Entree_resultat(2), liste);
+    ATTENDRE(Lire(L"Ligne_message").empty());
+    // Nothing is selected: the command says so, and ends.
+    Cliquer(L"Copier");
+    Attendre_boite(L"COPIER", L"Pas de fichier(s) 'SOURCE' sélectionné(s).", avertissement, IDOK);
+}
+
+TEST_F(Resultats_D, selectionner_tout_porte_sur_les_resultats_et_un_clic_en_sort) {
+    Lancer_avec_trois();
+    Cliquer_entree(L"Fichier_sél", L"d:\\un\\b.txt");
+    ATTENDRE(Choisies(L"Fichier_sél").size() == 1);
+    Cliquer(L"Sélecte");
+    ATTENDRE(Lire(L"Sélecte") == L"&Sélectionner un");
+    Verifier_resultats_dans_source(trois, trois_comptes);
+    Cliquer(L"Sélecte");
+    ATTENDRE(Lire(L"Sélecte") == L"&Sélectionner tout");
+    Restent(trois, {}, L"");
+    Cliquer(L"Sélecte");
+    ATTENDRE(Lire(L"Ligne_message") == trois_comptes);
+    Cliquer_entree(L"Fichier_sél", L"d:\\un\\a.txt");
+    ATTENDRE(Lire(L"Sélecte") == L"&Sélectionner tout");
+    Restent(trois, {L"d:\\un\\a.txt"}, L"   1 fichier sélectionné, total = 1\u00A0000 octets.");
+    // Left while it is on, the mode ends with the results.
+    Cliquer(L"Sélecte");
+    ATTENDRE(Lire(L"Sélecte") == L"&Sélectionner un");
+    Cliquer(L"Quitter");
+    Verifier_sans_resultats();
+    EXPECT_EQ(Lire(L"Sélecte"), L"&Sélectionner tout");
+}
+
+TEST_F(Resultats_D, un_fichier_disparu_avant_le_compte_est_signale_une_fois_et_quitte_les_resultats) {
+    Lancer_sur_d();
+    const auto resultats = Chercher(L".txt", trois);
+    Frapper_avec(VK_CONTROL, 'A');
+    ATTENDRE(resultats.Choisies(L"Liste_sél") == trois);
+    ASSERT_TRUE(Effacer(L"D:\\un\\b.txt"));
+    Pilote::Cliquer(resultats.Controle(L"OK"));
+    Introuvable(L"B.TXT");
+    Restent({L"d:\\un\\a.txt", L"d:\\un\\dessous\\c.txt"}, {L"d:\\un\\a.txt", L"d:\\un\\dessous\\c.txt"},
+            L"   2 fichiers sélectionnés, total = 1\u00A0030 octets.");
+    Cliquer_entree(L"Fichier_sél", L"d:\\un\\dessous\\c.txt");
+    ATTENDRE(Lire(L"Ligne_message") == L"   1 fichier sélectionné, total = 30 octets.");
+    EXPECT_TRUE(Boite_absente());
+}
+
+TEST_F(Resultats_D, copier_prend_chaque_fichier_dans_son_repertoire_et_quitte_les_resultats) {
+    Creer_d(L"un\\Grand Nom.TXT", 70000);
+    Lancer_sur_d();
+    Ouvrir(L"dest", L"d:\\vers");
+    Porter(L".txt",
+           {L"d:\\un\\a.txt", L"d:\\un\\b.txt", L"d:\\un\\grand nom.txt", L"d:\\un\\dessous\\c.txt"});
+    Cliquer(L"Copier");
+    Verifier_sans_resultats();
+    // The copy is called as its source is on disk.
+    EXPECT_EQ(Noms(L"D:\\vers"), (Textes{L"a.txt", L"b.txt", L"c.txt", L"Grand Nom.TXT", L"lisez.moi"}));
+    EXPECT_EQ(Empreinte(L"D:\\vers\\c.txt"), Empreinte(L"D:\\un\\dessous\\c.txt"));
+    EXPECT_EQ(Empreinte(L"D:\\vers\\Grand Nom.TXT"), Empreinte(L"D:\\un\\Grand Nom.TXT"));
+}
+
+TEST_F(Resultats_D, deux_fichiers_d_un_meme_nom_demandent_le_remplacement_et_non_ne_passe_que_le_second) {
+    Creer_d(L"un\\dessous\\a.txt", 77);
+    const Textes quatre = {L"d:\\un\\a.txt", L"d:\\un\\b.txt", L"d:\\un\\dessous\\a.txt",
+                           L"d:\\un\\dessous\\c.txt"};
+    Lancer_sur_d();
+    Ouvrir(L"dest", L"d:\\vers");
+    Porter(L".txt", quatre);
+    Cliquer(L"Déplacer");
+    Attendre_remplacement(L"DEPLACER", L"A.TXT", L"D:\\vers", IDNO);
+    Verifier_sans_resultats();
+    EXPECT_EQ(Noms(L"D:\\vers"), (Textes{L"a.txt", L"b.txt", L"c.txt", L"lisez.moi"}));
+    EXPECT_EQ(Taille_fichier(L"D:\\vers\\a.txt"), 1000U);
+    EXPECT_EQ(Noms(L"D:\\un\\dessous"), Textes{L"a.txt"});
+    Porter(L"a.txt", {L"d:\\vers\\a.txt", L"d:\\un\\dessous\\a.txt"});
+    Cliquer_entree(L"Fichier_sél", L"d:\\un\\dessous\\a.txt");
+    Cliquer(L"Déplacer");
+    Attendre_remplacement(L"DEPLACER", L"A.TXT", L"D:\\vers", IDYES);
+    Verifier_sans_resultats();
+    EXPECT_EQ(Taille_fichier(L"D:\\vers\\a.txt"), 77U);
+    EXPECT_EQ(Noms(L"D:\\un\\dessous"), Textes{});
+}
+
+TEST_F(Resultats_D, copier_s_arrete_a_un_fichier_disparu_et_le_reste_demeure_choisi) {
+    Lancer_avec_trois();
+    ASSERT_TRUE(Effacer(L"D:\\un\\b.txt"));
+    Cliquer(L"Copier");
+    Introuvable(L"B.TXT");
+    EXPECT_EQ(Noms(L"D:\\vers"), (Textes{L"a.txt", L"lisez.moi"}));
+    Restent({L"d:\\un\\a.txt", L"d:\\un\\dessous\\c.txt"}, {L"d:\\un\\dessous\\c.txt"},
+            L"   1 fichier sélectionné, total = 30 octets.");
+    EXPECT_TRUE(Se_voit(L"Titre_dest"));
+    EXPECT_FALSE(Se_voit(L"Arret"));
+    // The same button goes on with what is left.
+    Cliquer(L"Copier");
+    Verifier_sans_resultats();
+    EXPECT_EQ(Noms(L"D:\\vers"), (Textes{L"a.txt", L"c.txt", L"lisez.moi"}));
+}
+
+TEST_F(Resultats_D, deplacer_s_arrete_a_un_fichier_protege_qui_reste_choisi_avec_la_suite) {
+    Lancer_sur_d();
+    Choisir_unite(L"Unité_dest", L'c');
+    Ouvrir(L"dest", destination);
+    Porter(L".txt", trois);
+    Attributs(L"D:\\un\\b.txt", FILE_ATTRIBUTE_READONLY);
+    Cliquer(L"Déplacer");
+    Attendre_protege(L"B.TXT");
+    EXPECT_EQ(Noms(destination), Textes{L"a.txt"});
+    // What was moved is no longer a result.
+    Restent({L"d:\\un\\b.txt", L"d:\\un\\dessous\\c.txt"}, {L"d:\\un\\b.txt", L"d:\\un\\dessous\\c.txt"},
+            L"   2 fichiers sélectionnés, total = 230 octets.");
+    Attributs(L"D:\\un\\b.txt", FILE_ATTRIBUTE_ARCHIVE);
+    Cliquer(L"Déplacer");
+    Verifier_sans_resultats();
+    EXPECT_EQ(Noms(destination), (Textes{L"a.txt", L"b.txt", L"c.txt"}));
+    EXPECT_FALSE(Existe(L"D:\\un\\a.txt") || Existe(L"D:\\un\\b.txt") || Existe(L"D:\\un\\dessous\\c.txt"));
+}
+
+TEST_F(Resultats_D, le_seul_resultat_disparu_ramene_aux_fichiers_source) {
+    Lancer_sur_d();
+    Ouvrir(L"dest", L"d:\\vers");
+    Porter(L"b.txt", {L"d:\\un\\b.txt"});
+    ASSERT_TRUE(Effacer(L"D:\\un\\b.txt"));
+    Cliquer(L"Déplacer");
+    Introuvable(L"B.TXT");
+    Verifier_sans_resultats();
+    EXPECT_EQ(Noms(L"D:\\vers"), Textes{L"lisez.moi"});
+}
+
+TEST_F(Resultats_D,
+       les_chemins_de_plus_de_260_caracteres_et_les_noms_de_tout_alphabet_se_copient_et_se_deplacent) {
+    std::wstring fond = L"niveau";
+    for (int i = 0; i < 30; ++i) fond += L"\\repertoire" + std::to_wstring(i);
+    Creer_d(fond + L"\\profond.dat", 9000);
+    Creer_d(L"Ωμέγα\\Жук.dat", 300);
+    const Textes chemins = {L"d:\\ωμέγα\\жук.dat", L"d:\\" + fond + L"\\profond.dat"};
+    Lancer_sur_d();
+    Ouvrir(L"dest", L"d:\\vers");
+    for (const wchar_t * bouton : {L"Copier", L"Déplacer"}) {
+        SCOPED_TRACE(Utf8(bouton));
+        Porter(L".dat", chemins);
+        EXPECT_EQ(Lire(L"Ligne_message"), L"   2 fichiers sélectionnés, total = 9\u00A0300 octets.");
+        Cliquer(bouton);
+        Verifier_sans_resultats();
+        EXPECT_EQ(Noms(L"D:\\vers"), (Textes{L"lisez.moi", L"profond.dat", L"Жук.dat"}));
+        EXPECT_EQ(Taille_fichier(L"D:\\vers\\profond.dat"), 9000U);
+        const bool copie = std::wstring(bouton) == L"Copier";
+        EXPECT_EQ(Existe(L"D:\\Ωμέγα\\Жук.dat"), copie);
+        EXPECT_EQ(Existe(L"D:\\" + fond + L"\\profond.dat"), copie);
+        EXPECT_TRUE(Effacer(L"D:\\vers\\profond.dat") && Effacer(L"D:\\vers\\Жук.dat"));
+    }
+}

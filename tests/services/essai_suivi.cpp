@@ -1,0 +1,112 @@
+#include "platform/erreur.h"
+#include "platform/fichiers.h"
+#include "recycle/magasin.h"
+#include "services/banc.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr std::int32_t jour = 45000;
+
+bool Toujours() { return true; }
+
+// A directory of the bench takes another name while the bin holds files of it.
+class Suivi : public Banc {
+protected:
+    Suivi() {
+        for (const wchar_t * nom : {L"index", L"haut", L"haut\\bas", L"haut bis"}) Repertoire(nom);
+        magasin.Ouvrir({Chemin(L"index")});
+        for (const wchar_t * dossier : {L"haut bis", L"haut", L"haut\\bas"}) Faire_et_deposer(dossier);
+    }
+    void Faire_et_deposer(const std::wstring & dossier) {
+        std::size_t deposes = 0;
+        Fichier(dossier + L"\\a.txt");
+        magasin.Deposer({{L"a.txt", Chemin(dossier), 7}}, jour, Toujours, deposes);
+    }
+    void Renommer(const std::wstring & ancien, const std::wstring & nouveau) {
+        magasin.Suivre_repertoire(Chemin(ancien), Chemin(nouveau),
+                                  [&] { Renommer_fichier(Chemin(ancien), Chemin(nouveau)); });
+    }
+    std::vector<std::wstring> Repertoires() const {
+        std::vector<std::wstring> lus;
+        for (const Fiche & fiche : magasin.Fiches())
+            lus.push_back(fiche.repertoire.substr(Racine().size() + 1));
+        return lus;
+    }
+    void Tout_rendre() {
+        std::vector<std::size_t> tous(magasin.Fiches().size());
+        for (std::size_t i = 0; i < tous.size(); ++i) tous[i] = i;
+        magasin.Restaurer(tous, Toujours);
+    }
+    std::size_t Lignes() const {
+        const std::string octets = Contenu(Chemin(L"index\\KORVANE.CRB"));
+        return static_cast<std::size_t>(std::count(octets.begin(), octets.end(), '\n'));
+    }
+
+    Magasin magasin;
+};
+
+using Noms_lus = std::vector<std::wstring>;
+
+}  // namespace
+
+TEST_F(Suivi, les_fichiers_du_repertoire_et_de_dessous_se_recuperent_sous_son_nouveau_nom) {
+    Renommer(L"haut", L"Ωμέγα 2");
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"haut bis\\", L"Ωμέγα 2\\", L"Ωμέγα 2\\bas\\"}));
+    EXPECT_EQ(magasin.Total(), 21u);
+    Tout_rendre();
+    for (const wchar_t * nom : {L"haut bis\\a.txt", L"Ωμέγα 2\\a.txt", L"Ωμέγα 2\\bas\\a.txt"})
+        EXPECT_TRUE(Fichier_existe(Chemin(nom)));
+    EXPECT_TRUE(magasin.Fiches().empty());
+    EXPECT_EQ(Lignes(), 0u) << "les anciennes lignes partent à la première réécriture";
+}
+
+TEST_F(Suivi, un_autre_programme_relit_les_memes) {
+    Renommer(L"haut", L"neuf");
+    const Noms_lus attendus = Repertoires();
+    magasin.Fermer();
+    magasin.Ouvrir({Chemin(L"index")});
+    EXPECT_EQ(Repertoires(), attendus);
+}
+
+TEST_F(Suivi, deux_fois_de_suite_et_retour_au_premier_nom) {
+    Renommer(L"haut", L"un");
+    Renommer(L"un", L"deux");
+    Renommer(L"deux", L"haut");
+    EXPECT_EQ(Repertoires().size(), 3u);
+    Tout_rendre();
+    EXPECT_TRUE(Fichier_existe(Chemin(L"haut\\a.txt")));
+    EXPECT_TRUE(Fichier_existe(Chemin(L"haut\\bas\\a.txt")));
+}
+
+TEST_F(Suivi, la_casse_seule_ne_touche_pas_a_l_index) {
+    const std::string avant = Contenu(Chemin(L"index\\KORVANE.CRB"));
+    Renommer(L"haut", L"HAUT");
+    EXPECT_EQ(Contenu(Chemin(L"index\\KORVANE.CRB")), avant);
+    Tout_rendre();
+    EXPECT_TRUE(Fichier_existe(Chemin(L"HAUT\\bas\\a.txt")));
+}
+
+TEST_F(Suivi, un_renommage_refuse_ne_laisse_aucune_ligne) {
+    const std::string avant = Contenu(Chemin(L"index\\KORVANE.CRB"));
+    EXPECT_THROW(Renommer(L"haut", L"haut bis"), Erreur_execution);
+    EXPECT_EQ(Contenu(Chemin(L"index\\KORVANE.CRB")), avant);
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"haut bis\\", L"haut\\", L"haut\\bas\\"}));
+}
+
+TEST_F(Suivi, une_coupure_avant_le_renommage_laisse_les_fichiers_sous_l_ancien_nom) {
+    EXPECT_THROW(magasin.Suivre_repertoire(Chemin(L"haut"), Chemin(L"neuf"),
+                                           [&] {
+                                               // The index as the disk has it at this instant.
+                                               Magasin autre;
+                                               autre.Ouvrir({Chemin(L"index")});
+                                               EXPECT_EQ(autre.Fiches().size(), 3u);
+                                               EXPECT_EQ(Lignes(), 5u) << "les deux noms";
+                                               throw Erreur_execution(Numero::acces_fichier, 5, {});
+                                           }),
+                 Erreur_execution);
+    EXPECT_EQ(Lignes(), 3u);
+}
