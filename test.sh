@@ -84,7 +84,15 @@ compter_essais() {
         echecs=$(grep -c '^\[  FAILED  \].*ms)' "$journal" 2>/dev/null)
         compter "${tests:-0}" $((${echecs:-0} + 1)) 0 "$nom (interrompu, statut $statut)"
     fi
+    dire_coupures "$journal"
     [ "$statut" = 0 ] || montrer_echecs "$journal" | head -120
+}
+
+# How often the program was killed, cut or refused a call, and how many files that cost.
+dire_coupures() {
+    local ligne
+    tr -d '\r' <"$1" 2>/dev/null | grep '^coupures : ' | while IFS= read -r ligne; do dire "$ligne"; done
+    return 0
 }
 
 construire() {
@@ -175,12 +183,13 @@ lancer_essais() {
 
 # Two at once: each has its own prefix, its own desktop and its own drives.
 essais_windows() {
-    local -a noms=(logique-windows services)
+    local -a noms=(logique-windows services coupures)
     local nom
     if [ "$variante" != fenetres ]; then
         dire "logique et services sous Windows"
         (lancer_essais logique-windows null 96 120 "$programmes/tests_logique.exe") &
-        (lancer_essais services null 96 300 "$programmes/tests_services.exe") &
+        (lancer_essais services null 96 300 "$programmes/tests_services.exe" '--gtest_filter=-Actes/Coupures*') &
+        (lancer_essais coupures null 96 600 "$programmes/tests_services.exe" '--gtest_filter=Actes/Coupures*') &
         wait
         for nom in "${noms[@]}"; do compter_essais "$nom" "$(cat "$resultats/$nom.statut")"; done
     fi

@@ -12,6 +12,7 @@
 namespace {
 constexpr int    repertoires    = 10;
 constexpr int    par_repertoire = 500;
+constexpr int    fichiers       = repertoires * par_repertoire;
 constexpr int    tours          = 5;
 constexpr double borne          = 0.5;  // seconds
 
@@ -55,7 +56,7 @@ std::wstring Remplir_corbeille(const std::wstring & travail) {
     }
     wchar_t systeme[MAX_PATH];
     GetSystemDirectoryW(systeme, MAX_PATH);
-    const std::wstring chemin = std::wstring(systeme) + L"\\KORVANE.CRB";
+    std::wstring chemin = std::wstring(systeme) + L"\\KORVANE.CRB";
     Ecrire(chemin, index, FILE_ATTRIBUTE_HIDDEN);
     return chemin;
 }
@@ -112,8 +113,7 @@ double Ouvrir(DWORD processus) {
     const HWND liste   = Attendre(processus, fenetre, L"Fichier_effacé", 1);
     Attendre_reponse(fenetre);
     const double duree = Secondes() - debut;
-    if (SendMessageW(liste, LB_GETCOUNT, 0, 0) != repertoires * par_repertoire)
-        Abandonner("liste incomplète");
+    if (SendMessageW(liste, LB_GETCOUNT, 0, 0) != fichiers) Abandonner("liste incomplète");
     return duree;
 }
 

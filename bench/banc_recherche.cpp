@@ -43,11 +43,12 @@ void Parcourir(const std::wstring & repertoire, Compte & compte) {
                                                   FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
     if (recherche == INVALID_HANDLE_VALUE) return;
     do {
-        const std::wstring nom = trouve.cFileName;
-        if ((trouve.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0)
+        if ((trouve.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
             ++compte.fichiers;
-        else if (nom != L"." && nom != L"..")
-            Parcourir(repertoire + L"\\" + nom, compte);
+            continue;
+        }
+        const std::wstring nom = trouve.cFileName;
+        if (nom != L"." && nom != L"..") Parcourir(repertoire + L"\\" + nom, compte);
     } while (FindNextFileW(recherche, &trouve) != FALSE);
     FindClose(recherche);
 }

@@ -46,7 +46,7 @@ void Brancher_fille(Fenetre & fille, std::function<std::wstring()> aide_fenetre)
     };
 }
 
-void Brancher_abandon(Fenetre & fille, std::function<void()> abandonner) {
+void Brancher_abandon(Fenetre & fille, const std::function<void()> & abandonner) {
     fille.KeyDown = [abandonner](int & touche, int) {
         if (touche != Touche::echap) return Form_KeyDown(touche);
         touche = 0;

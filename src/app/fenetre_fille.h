@@ -20,7 +20,7 @@ void Brancher_fille(Fenetre & fille, const wchar_t * aide_fenetre);
 // The same with a text that is made when it is shown.
 void Brancher_fille(Fenetre & fille, std::function<std::wstring()> aide_fenetre);
 // Escape and the X of the frame do this instead of pressing the cancel button. After Brancher_fille.
-void Brancher_abandon(Fenetre & fille, std::function<void()> abandonner);
+void Brancher_abandon(Fenetre & fille, const std::function<void()> & abandonner);
 // The whole text of an entry too long for this list shows in `tip`, under the pointer. After Brancher_fille.
 void Brancher_astuce(Fenetre & fille, Liste & liste, Etiquette & tip);
 

@@ -6,7 +6,6 @@
 #include "app/globals.h"
 #include "app/routines.h"
 #include "forms/gestion_fichiers.h"
-#include "platform/erreur.h"
 #include "toolkit/application.h"
 
 #include <exception>
@@ -34,8 +33,6 @@ std::optional<Erreur_execution> Executer(const std::function<void()> & corps) {
 Garde::Garde() : avant_(std::exchange(variables.Garde, true)) {}
 
 Garde::~Garde() { variables.Garde = avant_; }
-
-bool Tenter(const std::function<void()> & corps) { return !Executer(corps).has_value(); }
 
 void Pieger(const std::wstring & commande, const std::function<void()> & corps,
             const std::function<void()> & remise) {

@@ -1,4 +1,6 @@
 #pragma once
+#include "platform/erreur.h"
+
 #include <functional>
 #include <string>
 
@@ -15,10 +17,6 @@ public:
 private:
     bool avant_;
 };
-
-// Runs a step that treats one failure in silence: true when nothing was thrown. For what must go on whatever
-// a drive does.
-bool Tenter(const std::function<void()> & corps);
 
 // The trap of the pane handlers: takes the label, runs the body and has a run-time error reported. `remise`
 // puts the window in order after a failure, before the report shows.

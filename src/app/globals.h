@@ -70,9 +70,9 @@ struct Variables {
     std::int32_t Date_du_jour    = 0;  // day serial number, taken once an erase or a purge
 
     // Path entry and search.
-    std::wstring Nom_cherche;            // directory looked up on the whole drive
-    std::wstring Modele_cherche;         // normalised pattern of the files searched for
-    std::size_t  Nombre_trouves = 0;     // files carried from the search results to the SOURCE pane
+    std::wstring Nom_cherche;                 // directory looked up on the whole drive
+    std::wstring Modele_cherche;              // normalised pattern of the files searched for
+    std::size_t  Nombre_trouves     = 0;      // files carried from the search results to the SOURCE pane
     bool         Recherche_en_cours = false;  // asked for, its window not shown yet
     bool         Recherche_annulee  = false;
     bool         Recherche_faite    = false;

@@ -10,6 +10,7 @@
 #include "browser/selection.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/fichiers.h"
+#include "toolkit/application.h"
 #include "toolkit/boites.h"
 
 #include <utility>
@@ -176,7 +177,13 @@ void Croiser_Click() {
     Gestion_Fichiers & f      = Principale();
     const std::wstring source = f.Répertoire_srce.Path();
     Pieger(
-        L"CROISER", [&] { Permuter(f); },
+        L"CROISER",
+        [&] {
+            // The free space is shown on the way, which lets events run: nothing may begin between the two panes.
+            const Garde                garde;
+            const Application::Sablier sablier;
+            Permuter(f);
+        },
         [&] {
             // Half a swap would show one directory twice.
             Tenter([&] { f.Répertoire_srce.Path(source); });

@@ -9,6 +9,8 @@
 #include "platform/fichiers.h"
 #include "toolkit/application.h"
 
+#include <algorithm>
+
 namespace {
 constexpr const wchar_t * etiquette = L"FICHIER SOURCE";
 
@@ -141,12 +143,13 @@ bool Reprendre_resultats(Gestion_Fichiers & f, const std::wstring & commande) {
     auto        choisis = f.Fichier_sél.Selection();
     Terminer_tout_selectionne(f);
     // From the last on: a result that leaves moves those behind it.
-    for (auto index = choisis.rbegin(); index != choisis.rend(); ++index) {
-        if (*index > dernier) continue;
-        if (Est_disparu(f.Fichier_sél.List(*index)))
-            Retirer(f, *index);
-        else if (*index < dernier && !Emporte(commande))
-            f.Fichier_sél.Selected(*index, false);
+    std::reverse(choisis.begin(), choisis.end());
+    for (const int index : choisis) {
+        if (index > dernier) continue;
+        if (Est_disparu(f.Fichier_sél.List(index)))
+            Retirer(f, index);
+        else if (index < dernier && !Emporte(commande))
+            f.Fichier_sél.Selected(index, false);
     }
     Afficher_compte_resultats(f);
     return f.Fichier_sél.ListCount() > 0;

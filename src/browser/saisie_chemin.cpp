@@ -75,6 +75,8 @@ void Remettre_chemin(const Panneau & p) { p.chemin.Text(p.repertoire.Path()); }
 
 // The pane is where the user wanted it.
 void Terminer(const Panneau & p) {
+    // Showing the free space lets events run: nothing may begin before the focus is where it goes.
+    const Garde garde;
     Suivre_unite(p);
     Remettre_chemin(p);  // a path that is open already changes nothing
     Retablir_fenetre();

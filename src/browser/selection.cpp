@@ -86,8 +86,9 @@ int Prochaine(const Liste & liste, int debut, bool avant) {
     }
     return -1;
 }
+
 // A result as it is now: its length, and its name as spelled on disk. Results are in lower case, which the files that a
-// command makes of them need not be.
+// command makes of them are not.
 void Relire(Fichier_choisi & fichier, const std::wstring & chemin) {
     const Entree_repertoire entree = Lire_entree(chemin);
     if ((entree.attributs & Attribut::repertoire) != 0) {

@@ -56,6 +56,7 @@ private:
     bool Taille_acceptee(const Depot & depot);
     bool Deposer_lot();
 
+    Depot       Depot_courant(bool demande) const;
     std::size_t Deposer_un_a_un();
     std::size_t Rang(const std::wstring & chemin) const;
     void        Retirer_de_la_liste();
@@ -126,12 +127,18 @@ bool Effacement::Detruire_courant() {
     return !variables.Arret_demande;
 }
 
-bool Effacement::Deposer_courant() {
+// Whoever answers questions gives a file the time to change, and search results are not spelled as the disk
+// spells them.
+Depot Effacement::Depot_courant(bool demande) const {
     const Fichier_choisi & fichier = parcours_.Courant();
-    const bool             demande = variables.Mode_effacement >= 0;
-    // Whoever answers questions gives a file the time to change.
-    Depot depot{fichier.nom, fichier.repertoire,
-                demande ? Lire_entree(variables.Chemin_source).taille : fichier.taille};
+    if (!demande && !variables.Mode_resultats) return {fichier.nom, fichier.repertoire, fichier.taille};
+    const Entree_repertoire entree = Lire_entree(variables.Chemin_source);
+    return {entree.nom, fichier.repertoire, entree.taille};
+}
+
+bool Effacement::Deposer_courant() {
+    const bool demande = variables.Mode_effacement >= 0;
+    Depot      depot   = Depot_courant(demande);
     if (lot_.size() >= taille_lot && !Deposer_lot()) return false;
     if (Plus_grand_que_corbeille(depot.taille) && !Taille_acceptee(depot)) return false;
     lot_.push_back(std::move(depot));

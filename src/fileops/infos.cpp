@@ -146,6 +146,8 @@ void Brancher(Info_Fichiers & w) {
     }
     w.Précédent.Brancher([&w] { Précédent_Click(w); });
     w.Suivant.Brancher([&w] { Suivant_Click(w); });
+    w.Précédent.Chaque_clic();
+    w.Suivant.Chaque_clic();
     w.Fin.Brancher([&w] { Fin_Click(w); });
     w.Defaut(w.Fin);
     w.Annulation(w.Fin);

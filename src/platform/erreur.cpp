@@ -99,3 +99,12 @@ void Lever_code(std::uint32_t code, Acte acte, const std::wstring & chemin) {
     const DWORD precis = code != 0 ? Preciser(code, acte, chemin) : ERROR_GEN_FAILURE;
     throw Erreur_execution(Numero_erreur(precis, acte), precis, chemin);
 }
+
+bool Tenter(const std::function<void()> & corps) {
+    try {
+        corps();
+        return true;
+    } catch (const std::exception &) {
+        return false;
+    }
+}

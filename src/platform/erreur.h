@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <functional>
 #include <string>
 
 // The one exception of the run-time services.
@@ -23,3 +24,7 @@ struct Erreur_execution : std::exception {
 [[noreturn]] void Lever_derniere_erreur(Acte acte, const std::wstring & chemin);
 // Throws for a code kept from an earlier call.
 [[noreturn]] void Lever_code(std::uint32_t code, Acte acte, const std::wstring & chemin);
+
+// Runs a step that treats one failure in silence: true when nothing was thrown. For what must go on whatever
+// a drive does.
+bool Tenter(const std::function<void()> & corps);

@@ -2,6 +2,7 @@
 
 #include "platform/chemins.h"
 #include "platform/erreur.h"
+#include "platform/parcours.h"
 #include "platform/poignee.h"
 
 namespace {
@@ -24,50 +25,21 @@ DWORD Attributs_ou_absent(const std::wstring & chemin) {
     }
 }
 
-bool Point_ou_deux(const wchar_t * nom) {
-    return nom[0] == L'.' && (nom[1] == L'\0' || (nom[1] == L'.' && nom[2] == L'\0'));
-}
-
 Entree_repertoire Entree(const WIN32_FIND_DATAW & trouve) {
     return {std::wstring(trouve.cFileName), En_64(trouve.nFileSizeHigh, trouve.nFileSizeLow),
             En_64(trouve.ftLastWriteTime.dwHighDateTime, trouve.ftLastWriteTime.dwLowDateTime),
             trouve.dwFileAttributes};
 }
 
-std::wstring Filtre_de_tout(const std::wstring & repertoire) {
-    // The names of the path are names: a wildcard among them would list something else.
-    if (repertoire.empty() ||
-        repertoire.find_first_of(L"?*", repertoire.starts_with(L"\\\\?\\") ? 4 : 0) != std::wstring::npos)
-        Lever_code(ERROR_PATH_NOT_FOUND, Acte::lister, repertoire);
-    std::wstring filtre = Forme_longue(repertoire);
-    if (filtre.back() != L'\\' && filtre.back() != L'/') filtre += L'\\';
-    return filtre += L'*';
-}
-
-// An empty root has no entry at all, not even ".", and answers "file not found" as a missing directory may.
-bool Vide(DWORD code, const std::wstring & repertoire) {
-    return (code == ERROR_FILE_NOT_FOUND || code == ERROR_NO_MORE_FILES) && Repertoire_existe(repertoire);
-}
-
 }  // namespace
 
 Contenu_repertoire Lire_repertoire(const std::wstring & repertoire) {
-    const std::wstring      filtre = Filtre_de_tout(repertoire);
-    Contenu_repertoire      contenu;
-    WIN32_FIND_DATAW        trouve;
-    const Poignee_recherche recherche(FindFirstFileExW(
-        filtre.c_str(), FindExInfoBasic, &trouve, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));
-    if (!recherche.Valide()) {
-        const DWORD code = GetLastError();
-        if (Vide(code, repertoire)) return contenu;
-        Lever_code(Fichier_existe(repertoire) ? ERROR_DIRECTORY : code, Acte::lister, repertoire);
-    }
-    do {
-        const bool est_repertoire = (trouve.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        if (est_repertoire && Point_ou_deux(trouve.cFileName)) continue;
-        (est_repertoire ? contenu.repertoires : contenu.fichiers).push_back(Entree(trouve));
-    } while (FindNextFileW(recherche.Valeur(), &trouve));
-    if (GetLastError() != ERROR_NO_MORE_FILES) Lever_derniere_erreur(Acte::lister, repertoire);
+    Contenu_repertoire contenu;
+    Enumerer(repertoire, [&](const Entree_vue & vue) {
+        (vue.repertoire ? contenu.repertoires : contenu.fichiers)
+            .push_back({std::wstring(vue.nom), vue.taille, vue.moment, vue.attributs});
+        return true;
+    });
     return contenu;
 }
 

@@ -101,11 +101,10 @@ void Récupérer_Click(Corbeille & w) {
 
 bool Confirmer_destruction() {
     Bip();
-    variables.Reponse =
-        Message_boite(L"Attention ! La corbeille contient des fichiers que vous allez perdre si vous ne "
-                      L"saisissez pas une taille ou "
-                      L"un temps.\rConfirmez-vous la suppression de la corbeille ?",
-                      Boite::oui_non | Boite::question | Boite::deuxieme_bouton, titre_gestionnaire);
+    variables.Reponse = Message_boite(
+        L"Attention ! La corbeille contient des fichiers que vous allez perdre si vous ne "
+        L"saisissez pas une taille ou un temps.\rConfirmez-vous la suppression de la corbeille ?",
+        Boite::oui_non | Boite::question | Boite::deuxieme_bouton, titre_gestionnaire);
     return variables.Reponse == Reponse_boite::oui;
 }
 
@@ -115,6 +114,7 @@ void Detruire_corbeille() {
     Magasin_corbeille().Detruire();
     variables.Total_corbeille = 0;
     variables.Chemin_corbeille.clear();
+    variables.Fichier_courant = Nom_du_chemin(variables.Fichier_ini);
     Ecrire_profil(variables.Fichier_ini, Section::corbeille, Cle::total, std::nullopt);
 }
 
@@ -148,6 +148,7 @@ void Fin_Click(Corbeille & w) {
         [&] {
             Lire_limites_corbeille();
             Montrer_fichiers(w);
+            if (Magasin_corbeille().Ouvert()) Enregistrer_total();
         });
     variables.Fichier_courant.clear();
     if (fermer) Fermer_fille(w);
@@ -166,8 +167,8 @@ void Abandonner(Corbeille & w) {
 
 // Says where the index is when the directory of the system could not take it.
 std::wstring Aide_fenetre() {
-    const std::wstring texte   = aide_fenetre_corbeille;
-    const Magasin &    magasin = Magasin_corbeille();
+    std::wstring    texte   = aide_fenetre_corbeille;
+    const Magasin & magasin = Magasin_corbeille();
     if (!magasin.Ouvert() || Comparer_sans_casse(magasin.Repertoire(), Repertoire_systeme()) == 0)
         return texte;
     return texte + aide_index_ailleurs + magasin.Repertoire() + L".";

@@ -101,9 +101,19 @@ void Index_corbeille::Relire() {
 
 void Index_corbeille::Constater() { Constater_presences(lignes_); }
 
+// The room made for the line end of a record, cut before that end was written.
+void Index_corbeille::Oter_zeros_de_fin() {
+    const std::string & octets = lignes_.back().octets;
+    const std::size_t   utiles = octets.find_last_not_of('\0') + 1;
+    if (utiles == octets.size() || !octets.starts_with("crb")) return;
+    canal_.Tronquer(longueur_ - (octets.size() - utiles));
+    Relire();
+}
+
 // A file takes its coded name after its line is whole: the beginning of a line has no file.
 void Index_corbeille::Completer_derniere() {
     if (lignes_.empty() || lignes_.back().Entiere()) return;
+    Oter_zeros_de_fin();
     Ligne_index & derniere = lignes_.back();
     const bool    fiche    = derniere.fiche && derniere.presence != Presence::absente;
     if (!fiche && Debut_de_fiche(derniere.octets)) {

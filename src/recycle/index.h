@@ -50,6 +50,7 @@ private:
     void         Ouvrir_canal();
     void         Recuperer_reecriture();
     void         Completer_derniere();
+    void         Oter_zeros_de_fin();
     void         Remplacer(const std::string & octets);
 
     std::wstring               repertoire_;

@@ -1,6 +1,5 @@
 #include "recycle/magasin.h"
 
-#include "app/garde.h"
 #include "platform/canal.h"
 #include "platform/erreur.h"
 #include "platform/fichiers.h"

@@ -63,14 +63,20 @@ public:
     void Detruire();
 
 private:
+    // Records of a directory's files before and after it takes another name.
+    struct Suivies {
+        std::vector<Fiche> avant;
+        std::vector<Fiche> apres;
+    };
+
     void Actualiser();  // fiches_ from the lines of the index
     void Accorder();    // memory with the disk, before anything is changed
     void Ranger(std::vector<Fiche> & fiches, const std::function<bool()> & continuer, std::size_t & deposes);
     void Conclure(const std::vector<Fiche> & fiches, std::size_t deposes);
     void Placer(std::vector<Fiche> & fiches, std::size_t rang, bool & code);
     void Changer_code(std::vector<Fiche> & fiches, std::size_t rang);
-    std::vector<Fiche> Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const;
-    void               Reecrire(const std::vector<Fiche> & parties, std::exception_ptr premiere_erreur);
+    Suivies Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const;
+    void    Reecrire(const std::vector<Fiche> & parties, std::exception_ptr premiere_erreur);
 
     Index_corbeille    index_;
     Codes_libres       codes_;

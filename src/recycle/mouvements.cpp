@@ -1,6 +1,5 @@
 #include "recycle/mouvements.h"
 
-#include "app/garde.h"
 #include "platform/canal.h"
 #include "platform/erreur.h"
 #include "platform/fichiers.h"

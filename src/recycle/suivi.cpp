@@ -3,7 +3,6 @@
 #include "platform/systeme.h"
 #include "platform/textes.h"
 #include "recycle/magasin.h"
-#include "recycle/presence.h"
 
 #include <map>
 #include <optional>
@@ -32,8 +31,8 @@ void Verifier(const Fiche & fiche) {
 
 }  // namespace
 
-std::vector<Fiche> Magasin::Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const {
-    std::vector<Fiche>                                  suivies;
+Magasin::Suivies Magasin::Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const {
+    Suivies                                             suivies;
     std::map<std::wstring, std::optional<std::wstring>> connus;
     for (const Ligne_index & ligne : index_.Lignes()) {
         const bool present = ligne.presence == Presence::la;
@@ -43,21 +42,12 @@ std::vector<Fiche> Magasin::Fiches_suivies(const std::wstring & ancien, const st
         if (connu == connus.end())
             connu = connus.emplace(repertoire, Apres_renommage(repertoire, ancien, nouveau, present)).first;
         if (!connu->second) continue;
-        suivies.push_back(*ligne.fiche);
-        suivies.back().repertoire = *connu->second;
-        Verifier(suivies.back());
+        suivies.avant.push_back(*ligne.fiche);
+        suivies.apres.push_back(*ligne.fiche);
+        suivies.apres.back().repertoire = *connu->second;
+        Verifier(suivies.apres.back());
     }
     return suivies;
-}
-
-// Those that no line has yet: a directory may take back a name that it had before.
-std::vector<Fiche> Magasin::Sans_ligne(std::vector<Fiche> fiches) const {
-    Chemins_codes inscrits;
-    for (const Ligne_index & ligne : index_.Lignes())
-        if (ligne.fiche) inscrits.insert(Sans_casse(ligne.fiche->Chemin_code()));
-    std::erase_if(fiches,
-                  [&](const Fiche & fiche) { return inscrits.contains(Sans_casse(fiche.Chemin_code())); });
-    return fiches;
 }
 
 void Magasin::Suivre_repertoire(const std::wstring & ancien, const std::wstring & nouveau,
@@ -66,19 +56,16 @@ void Magasin::Suivre_repertoire(const std::wstring & ancien, const std::wstring 
     if (Comparer_sans_casse(ancien, nouveau) == 0) return renommer();
     const Exclusivite tour(tour_de_la_corbeille);
     Accorder();
-    const std::vector<Fiche> suivies = Fiches_suivies(ancien, nouveau);
-    if (suivies.empty()) return renommer();
-    const std::vector<Fiche> nouvelles = Sans_ligne(suivies);
-    if (!nouvelles.empty()) index_.Inscrire(nouvelles, 0);
+    const Suivies suivies = Fiches_suivies(ancien, nouveau);
+    if (suivies.apres.empty()) return renommer();
+    index_.Inscrire(suivies.apres, 0);
     try {
         renommer();
     } catch (...) {
-        if (!nouvelles.empty()) index_.Retirer(0);
+        index_.Retirer(0);
         throw;
     }
-    if (!nouvelles.empty()) index_.Confirmer(nouvelles, nouvelles.size());
-    // The former records have no file and leave with the next rewriting: a power cut may give the directory its
-    // former name back until then.
-    index_.Constater();
-    Actualiser();
+    index_.Confirmer(suivies.apres, suivies.apres.size());
+    // The directory has its name: a record of the former one that cannot leave names nothing that could be lost.
+    Tenter([&] { Reecrire(suivies.avant, nullptr); });
 }

@@ -11,7 +11,7 @@ constexpr int tirages_permis = 32;
 
 int Un_tirage(const Hasard & hasard) {
     const double n = hasard() * Numeros_pris::nombre;
-    if (!(n >= 0)) return 0;  // not a number neither
+    if (n < 0) return 0;
     return n < Numeros_pris::nombre ? static_cast<int>(n) : Numeros_pris::nombre - 1;
 }
 

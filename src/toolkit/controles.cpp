@@ -66,7 +66,7 @@ void Bouton_commande::Cliquer() {
 }
 
 void Bouton_commande::Notification(unsigned code) {
-    if (code == BN_CLICKED) Cliquer();
+    if (code == BN_CLICKED || (code == BN_DBLCLK && chaque_clic_)) Cliquer();
 }
 
 bool Bouton_commande::Enfoncer() {

@@ -31,6 +31,9 @@ public:
     bool         Enabled() const { return Controle::Enabled(); }
     void         Brancher(std::function<void()> click);  // binds Click; the button becomes usable
     void         Cliquer();                              // what a user's click does, when visible and enabled
+    // Clicks in quick succession count one by one, for a button that steps through something; otherwise the second of a
+    // double click starts nothing again.
+    void Chaque_clic() { chaque_clic_ = true; }
 
 protected:
     void Notification(unsigned code) override;
@@ -38,7 +41,8 @@ protected:
 
 private:
     std::function<void()> click_;
-    bool                  voulu_ = true;
+    bool                  voulu_       = true;
+    bool                  chaque_clic_ = false;
 };
 
 // A one-line text field.

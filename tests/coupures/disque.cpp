@@ -90,7 +90,10 @@ void Disque::Tout_fermer() {
     recherches_.clear();
 }
 
-void Disque::Couper_courant() {
-    for (const auto & [chemin, octets] : durables_) Ecrire(chemin, octets);
+void Disque::Couper_courant(bool zeros) {
+    for (auto & [chemin, octets] : durables_) {
+        if (zeros) octets.resize(std::max(octets.size(), Lire(chemin).size()), '\0');
+        Ecrire(chemin, octets);
+    }
     durables_.clear();
 }

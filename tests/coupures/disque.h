@@ -18,8 +18,10 @@ public:
     void Ferme(HANDLE poignee);
     void Finit_recherche(HANDLE poignee) { std::erase(recherches_, poignee); }
     void Tout_fermer();
-    // Files get back what was last flushed. Names are kept: the system writes its journal of names in order.
-    void Couper_courant();
+    bool En_suspens() const { return !durables_.empty(); }
+    // Files get back what was last flushed, `zeros` with zeros up to their lengths of now. Names are kept: the system writes its
+    // journal of names in order.
+    void Couper_courant(bool zeros);
 
 private:
     struct Ouverture {

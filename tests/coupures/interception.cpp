@@ -102,8 +102,9 @@ bool Sous_ordres() { return jeu.fil != 0 && jeu.fil == GetCurrentThreadId(); }
     jeu.constat.mort = true;
     jeu.fil          = 0;
     if (jeu.fin == Fin::processus) TerminateProcess(GetCurrentProcess(), 77);
+    jeu.constat.en_suspens = jeu.disque.En_suspens();
     jeu.disque.Tout_fermer();
-    if (jeu.fin == Fin::courant) jeu.disque.Couper_courant();
+    if (jeu.fin != Fin::fil) jeu.disque.Couper_courant(jeu.fin == Fin::courant_zeros);
     ExitThread(77);
 }
 

@@ -30,13 +30,15 @@ enum class Fin {
     processus,  // killed
     fil,        // the thread that acts ends there, what it had opened is closed: the disk as a kill leaves it
     courant,    // the same after a power cut: what was written and not flushed is gone
+    courant_zeros,  // or the files have their new lengths, and zeros there
 };
 
 struct Constat {
-    unsigned                 appels  = 0;  // seen, of those that the order counts
-    bool                     atteint = false;
-    bool                     mort    = false;
-    std::vector<std::string> noms;  // of the functions, in order
+    unsigned                 appels     = 0;  // seen, of those that the order counts
+    bool                     atteint    = false;
+    bool                     mort       = false;
+    bool                     en_suspens = false;  // writes were not flushed when it died
+    std::vector<std::string> noms;                // of the functions, in order
 };
 
 // Names of imported functions that change files and would pass unseen; none may be used.

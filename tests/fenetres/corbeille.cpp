@@ -10,6 +10,8 @@ const std::wstring Corbeille::nouvel_index = L"C:\\windows\\system32\\KORVANE.NE
 
 namespace {
 
+constexpr std::uint64_t contenu_maximal = 1'000'000;  // bytes; a longer file is not written
+
 std::string Page_systeme(const std::wstring & texte) {
     std::string octets(texte.size() * 4, '\0');
     const int   longueur = static_cast<int>(texte.size()), place = static_cast<int>(octets.size());
@@ -17,6 +19,15 @@ std::string Page_systeme(const std::wstring & texte) {
         WideCharToMultiByte(CP_ACP, 0, texte.data(), longueur, octets.data(), place, nullptr, nullptr);
     octets.resize(static_cast<std::size_t>(ecrits));
     return octets;
+}
+
+// The room is not taken: the file is as long as it says and holds nothing.
+void Creer_sans_contenu(const std::wstring & chemin, std::uint64_t taille) {
+    const HANDLE  fichier = CreateFileW(chemin.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
+    LARGE_INTEGER fin{};
+    fin.QuadPart = static_cast<LONGLONG>(taille);
+    EXPECT_TRUE(SetFilePointerEx(fichier, fin, nullptr, FILE_BEGIN) && SetEndOfFile(fichier)) << Utf8(chemin);
+    CloseHandle(fichier);
 }
 
 std::wstring Nom_code(int jour, int tirage) {
@@ -49,7 +60,10 @@ void Corbeille::Mettre(const std::wstring & chemin, std::uint64_t taille, std::u
     const std::size_t  barre      = chemin.rfind(L'\\') + 1;
     const std::wstring repertoire = chemin.substr(0, barre);
     const std::wstring code       = Nom_code(jour, tirage);
-    Creer_fichier_graine(repertoire + code, taille, graine);
+    if (taille < contenu_maximal)
+        Creer_fichier_graine(repertoire + code, taille, graine);
+    else
+        Creer_sans_contenu(repertoire + code, taille);
     Attributs(repertoire + code, FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN);
     char octets[16];
     std::snprintf(octets, sizeof octets, "%08llu", static_cast<unsigned long long>(taille));
@@ -78,6 +92,18 @@ Pilote::Fille Corbeille::Rouvrir_corbeille() {
     const Pilote::Fille fille = Fenetre_corbeille();
     fille.Attendre_ouverte();
     return fille;
+}
+
+void Corbeille::Recuperer(const Pilote::Fille & fille, std::size_t restants) {
+    fille.Cliquer(L"Récupérer");
+    Attendre_restants(fille, restants);
+}
+
+void Corbeille::Attendre_restants(const Pilote::Fille & fille, std::size_t restants) {
+    const HWND liste = fille.Controle(L"Fichier_effacé");
+    EXPECT_TRUE(Attendre(
+        [&] { return static_cast<std::size_t>(Nombre_entrees(liste)) == restants && !Sablier(); }, 30000))
+        << Nombre_entrees(liste) << " fichiers au lieu de " << restants;
 }
 
 void Corbeille::Terminer(const Pilote::Fille & fille) {

@@ -15,7 +15,8 @@ protected:
     static const std::wstring nouvel_index;
     static std::wstring       Donnees_locales();  // where the index goes when the system directory refuses it
 
-    // A file in the bin: it lies in its directory under the coded name, and its line is added to those of Ecrire_index.
+    // A file in the bin: it lies in its directory under the coded name, and its line is added to those of Ecrire_index. One
+    // of a million bytes or more holds nothing.
     void Mettre(const std::wstring & chemin, std::uint64_t taille, std::uint32_t graine, int jour,
                 int tirage);
     void Ajouter_ligne(const std::string & ligne);  // any other
@@ -26,6 +27,9 @@ protected:
     Pilote::Fille Ouvrir_corbeille();
     Pilote::Fille Rouvrir_corbeille();  // by its button, once closed
     Pilote::Fille Fenetre_corbeille() const { return Fille(L"Corbeille"); }
+    // By its button; the list holds so many files when all is over.
+    void Recuperer(const Pilote::Fille & fille, std::size_t restants);
+    void Attendre_restants(const Pilote::Fille & fille, std::size_t restants);
     // By the closing button, without a question.
     void Terminer(const Pilote::Fille & fille);
 

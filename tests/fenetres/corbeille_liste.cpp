@@ -30,8 +30,8 @@ TEST_F(Corbeille, deux_fichiers_du_meme_nom_et_du_meme_repertoire_sont_montres_t
     const auto fille = Ouvrir_corbeille();
     EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), (Textes{Source(L"a.txt"), Source(L"a.txt")}));
     fille.Choisir(L"Fichier_effacé", {1});
-    fille.Cliquer(L"Récupérer");
-    ATTENDRE(fille.Entrees(L"Fichier_effacé") == Textes{Source(L"a.txt")});
+    Recuperer(fille, 1);
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), Textes{Source(L"a.txt")});
     Verifier_recupere(Source(L"a.txt"), 20, 2);
     EXPECT_TRUE(En_corbeille(source, 45000, 1));
 }
@@ -57,8 +57,8 @@ TEST_F(Corbeille, les_lignes_etrangeres_ne_sont_pas_montrees_et_restent_dans_l_i
     const auto fille = Ouvrir_corbeille();
     EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), (Textes{Source(L"a.txt"), Source(L"b.txt")}));
     fille.Choisir(L"Fichier_effacé", {0});
-    fille.Cliquer(L"Récupérer");
-    ATTENDRE(fille.Entrees(L"Fichier_effacé") == Textes{Source(L"b.txt")});
+    Recuperer(fille, 1);
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), Textes{Source(L"b.txt")});
     Verifier_recupere(Source(L"a.txt"), 10, 1);
     Terminer(fille);
     auto attendues = Lignes();
@@ -129,28 +129,32 @@ TEST_F(Corbeille, f1_dans_la_fenetre_met_l_aide_et_l_arrete) {
 }
 
 TEST_F(Corbeille, cinq_mille_fichiers_sont_tous_montres_et_une_moitie_se_recupere_d_un_coup) {
-    constexpr int     jours = 5, tirages = 1000;
-    const std::string repertoire = Utf8(source) + "\\";
-    ASSERT_TRUE(Sur_hote(source, L"for j in 1 2 3 4 5; do seq -f crb4500$j.%03g 0 999; done | xargs touch"));
-    for (int i = 0; i < jours * tirages; ++i) {
-        char ligne[300];
-        std::snprintf(ligne, sizeof ligne, "crb4500%d.%03d 00000000 f%04d.txt %s", 1 + i / tirages,
-                      i % tirages, i, repertoire.c_str());
-        Ajouter_ligne(ligne);
+    ASSERT_TRUE(Sur_hote(source,
+                         L"for r in 0 1 2 3 4 5 6 7 8 9; do mkdir $r; (cd $r && seq -f crb45000.%03g 0 499 | "
+                         L"xargs touch); done"));
+    const auto nom = [this](int i) {
+        return Source(std::to_wstring(i / 500)) + L"\\f" + std::to_wstring(i) + L".txt";
+    };
+    for (int i = 0; i < 5000; ++i) {
+        const std::string ordre = std::to_string(1000 + i % 500).substr(1);
+        Ajouter_ligne("crb45000." + ordre + " 00000000 f" + std::to_string(i) + ".txt " + Utf8(source) +
+                      "\\" + std::to_string(i / 500) + "\\");
     }
     const auto fille = Ouvrir_corbeille();
     const HWND liste = fille.Controle(L"Fichier_effacé");
-    EXPECT_EQ(Nombre_entrees(liste), jours * tirages);
-    EXPECT_EQ(Entree(liste, 4999), Source(L"f4999.txt"));
+    EXPECT_EQ(Nombre_entrees(liste), 5000);
+    EXPECT_EQ(Entree(liste, 4999), nom(4999));
     Pilote::Cliquer(Point_entree(liste, 2500));
     Frapper_avec(VK_SHIFT, VK_END);
     ATTENDRE(Nombre_selection(liste) == 2500);
-    fille.Cliquer(L"Récupérer");
-    EXPECT_TRUE(Attendre([&] { return Nombre_entrees(liste) == 2500 && !Sablier(); }, 30000));
-    EXPECT_EQ(Entree(liste, 2499), Source(L"f2499.txt"));
+    Recuperer(fille, 2500);
+    EXPECT_EQ(Entree(liste, 2499), nom(2499));
     const auto toutes = Lignes();
     EXPECT_EQ(Lignes_index(), std::vector<std::string>(toutes.begin(), toutes.begin() + 2500));
-    EXPECT_TRUE(Existe(Source(L"f4999.txt")) && Existe(Source(L"f2500.txt")) &&
-                !Existe(Source(L"f2499.txt")));
-    EXPECT_EQ(Nombre_entrees(Controle(L"Fichier_srce")), 5000);  // those still in the bin are not hidden here
+    for (int rang = 5; rang < 10; ++rang) {
+        const Textes revenus = Noms(Source(std::to_wstring(rang)));
+        EXPECT_EQ(revenus.size(), 500u);
+        EXPECT_EQ(revenus.front().front(), L'f');
+    }
+    EXPECT_FALSE(Existe(nom(2499)));
 }

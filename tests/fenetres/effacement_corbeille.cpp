@@ -85,7 +85,7 @@ TEST_F(Effacement, un_fichier_vide_va_a_la_corbeille) {
 TEST_F(Effacement, plus_grand_que_la_corbeille_se_demande_et_oui_finit_la_commande) {
     Activer(L"10");
     Creer_source(L"a.txt", 100, 1);
-    Creer_source(L"l'été.dat", 10 * 1024 + 1, 2);
+    Creer_source(L"l'été.dat", 10241, 2);
     Creer_source(L"z.txt", 100, 3);
     Retenir();
     Lancer_dans_les_dossiers();
@@ -101,7 +101,7 @@ TEST_F(Effacement, plus_grand_que_la_corbeille_se_demande_et_oui_finit_la_comman
 TEST_F(Effacement, plus_grand_que_la_corbeille_et_non_le_garde_en_perdant_les_plus_anciens) {
     Activer(L"10");
     Creer_source(L"a.txt", 100, 1);
-    Creer_source(L"b.dat", 10 * 1024 + 1, 2);
+    Creer_source(L"b.dat", 10241, 2);
     Creer_source(L"c.txt", 100, 3);
     Retenir();
     Lancer_dans_les_dossiers();
@@ -120,7 +120,7 @@ TEST_F(Effacement, plus_grand_que_la_corbeille_et_non_le_garde_en_perdant_les_pl
 
 TEST_F(Effacement, de_la_taille_exacte_de_la_corbeille_ne_se_demande_pas) {
     Activer(L"10");
-    Creer_source(L"a.txt", 10 * 1024, 1);
+    Creer_source(L"a.txt", 10240, 1);
     Retenir();
     Lancer_dans_les_dossiers();
     Effacer_un(L"a.txt");

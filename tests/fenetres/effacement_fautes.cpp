@@ -129,8 +129,8 @@ TEST_F(Effacement, sans_index_nulle_part_l_effacement_est_refuse_et_rien_n_est_p
 
 TEST_F(Effacement, l_arret_laisse_en_place_ce_qui_n_est_pas_encore_traite) {
     Activer();
-    constexpr std::size_t nombre = 800;
-    ASSERT_TRUE(Sur_hote(source, L"for i in $(seq -w 1 800); do echo \"fichier $i\" >\"f$i.txt\"; done"));
+    constexpr std::size_t nombre = 400;
+    ASSERT_TRUE(Sur_hote(source, L"for i in $(seq -w 1 400); do echo \"fichier $i\" >\"f$i.txt\"; done"));
     Retenir();
     Lancer_dans_les_dossiers();
     Choisir_tout();

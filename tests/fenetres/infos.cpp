@@ -318,7 +318,7 @@ TEST_F(Infos, la_fenetre_s_ouvre_a_sa_place_et_se_parcourt_au_clavier) {
     const auto fille = Ouvrir_infos();
     Verifier_place(fille, 430 + 45, 430 + 45);
     Verifier_clavier_et_disposition(
-        fille, {L"Caché", L"Lecture", L"Modifié", L"Système", L"Précédent", L"Suivant", L"Fin"});
+        fille, {L"Suivant", L"Fin", L"Caché", L"Lecture", L"Modifié", L"Système", L"Précédent"});
     for (const wchar_t * nom :
          {L"Caché", L"Lecture", L"Modifié", L"Système", L"Précédent", L"Suivant", L"Fin"})
         EXPECT_NE(fille.Lire(nom).find(L'&'), std::wstring::npos) << Utf8(nom);

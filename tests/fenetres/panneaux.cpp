@@ -280,17 +280,6 @@ TEST_F(Panneaux, en_mode_repertoire_le_clavier_et_l_ouverture_d_un_repertoire_ne
     EXPECT_EQ(Choisies(), Textes{});
 }
 
-TEST_F(Panneaux, supprimer_du_clavier_ne_touche_a_aucun_fichier_tant_que_la_commande_est_inactive) {
-    Creer_source(L"a.txt", 10);
-    Lancer_dans_les_dossiers();
-    ASSERT_FALSE(Est_actif(L"Effacer"));
-    Choisir({L"a.txt"});
-    Pilote::Frapper(VK_DELETE);
-    Pilote::Reposer(Principale());
-    EXPECT_TRUE(Boite_absente());
-    EXPECT_EQ(Pilote::Noms(source), Textes{L"a.txt"});
-}
-
 class Panneaux_D : public Panneaux {
 protected:
     Panneaux_D() {

@@ -214,6 +214,29 @@ protected:
     }
 };
 
+TEST_F(Recherche_arrets_AD, une_disquette_retiree_est_signalee_et_une_autre_est_parcourue_a_nouveau) {
+    for (const int numero : {2, 1}) {
+        Unite::Inserer_disquette(numero);
+        Unite::Vider(L'A');
+        Creer_fichier(L"A:\\sous " + std::to_wstring(numero) + L"\\a.txt", "x");
+    }
+    Lancer_sur_d();
+    Choisir_unite(L"Unité_srce", L'a');
+    Annuler(Chercher(L".txt", {L"a:\\sous 1\\a.txt"}));
+    Unite::Retirer_disquette();
+    Lancer_recherche(L".txt");
+    Attendre_avertissement(L"Support absent ou erreur d'accès sur A:");
+    Resultats().Attendre_fermee();
+    Attendre_fin_commande();
+    EXPECT_FALSE(Se_voit(L"Fichier_sél"));
+    Unite::Inserer_disquette(2);
+    Pilote::Cliquer(Point_entree(Controle(L"Répertoire_srce"), 0));
+    Attendre_fin_commande();
+    Annuler(Chercher(L".txt", {L"a:\\sous 2\\a.txt"}));
+    Unite::Vider(L'A');
+    Unite::Inserer_disquette(1);
+}
+
 TEST_F(Recherche_arrets_AD, cent_arrets_a_des_moments_quelconques_laissent_une_fenetre_utilisable) {
     constexpr unsigned arrets = 100;
     Unite::Inserer_disquette(1);
@@ -227,11 +250,12 @@ TEST_F(Recherche_arrets_AD, cent_arrets_a_des_moments_quelconques_laissent_une_f
     Attendre_choix(Resultats());
     Annuler(Resultats());
     std::mt19937 hasard(4202);
-    unsigned     pendant = 0, portee = 200;
+    unsigned     pendant = 0, portee = 120;
     for (unsigned i = 0; i < arrets && !HasFailure(); ++i) {
         SCOPED_TRACE(i);
         Pilote::Cliquer(Controle(L"Croiser"));
         ATTENDRE(Lire(L"Unité_srce").front() == (i % 2 ? L'd' : L'a'));
+        Attendre_fin_commande();
         Pilote::Cliquer(Controle(L"Chercher"));
         EXIGER(Demande().Ouverte() && GetForegroundWindow() == Demande().Fenetre());
         Frapper(VK_RETURN);
@@ -243,6 +267,7 @@ TEST_F(Recherche_arrets_AD, cent_arrets_a_des_moments_quelconques_laissent_une_f
         if (!encore) portee = portee * 3 / 4 + 1;
         Frapper(VK_ESCAPE);
         ATTENDRE(!Resultats().Ouverte() && Active(Principale()) && Boite_absente() && Est_actif(L"Chercher"));
+        Reposer(Principale());
         EXPECT_FALSE(Se_voit(L"Fichier_sél"));
         EXPECT_FALSE(Sablier());
     }

@@ -22,7 +22,7 @@ TEST(Lignes, un_index_vide_n_en_a_pas) { EXPECT_TRUE(Decouper("").empty()); }
 
 TEST(Lignes, les_deux_fins_de_ligne_sont_comprises) {
     const auto lignes = Decouper(fiche_1 + "\r\n" + fiche_2 + "\n");
-    ASSERT_EQ(lignes.size(), 2u);
+    ASSERT_TRUE(lignes.size() == 2 && lignes[0].fiche && lignes[1].fiche);
     EXPECT_EQ(lignes[0].fiche->nom, L"RAPPORT.DOC");
     EXPECT_EQ(lignes[1].fiche->nom, L"B.TXT");
     EXPECT_TRUE(lignes[1].Entiere());
@@ -34,6 +34,7 @@ TEST(Lignes, ce_qui_n_est_pas_une_fiche_reste_a_sa_place) {
     const auto lignes = Decouper(octets);
     ASSERT_EQ(lignes.size(), 6u);
     for (const std::size_t etrangere : {0u, 2u, 3u, 4u}) EXPECT_FALSE(lignes[etrangere].fiche) << etrangere;
+    ASSERT_TRUE(lignes[5].fiche);
     EXPECT_EQ(lignes[5].fiche->nom, L"B.TXT");
     EXPECT_EQ(Recoller(lignes), octets);
 }

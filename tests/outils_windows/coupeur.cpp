@@ -7,10 +7,8 @@
 #include "coupures/actes.h"
 #include "coupures/interception.h"
 #include "platform/erreur.h"
-#include "platform/windows.h"
 
 #include <cwchar>
-#include <shellapi.h>
 
 namespace {
 
@@ -36,9 +34,7 @@ int Couper(wchar_t ** arguments) {
 
 }  // namespace
 
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
-    int        nombre    = 0;
-    wchar_t ** arguments = CommandLineToArgvW(GetCommandLineW(), &nombre);
+int wmain(int nombre, wchar_t ** arguments) {
     if (nombre != 5) return 2;
     if (!Interception::Oublies().empty()) return 3;
     return Couper(arguments);

@@ -244,10 +244,11 @@ protected:
     Coupures_corbeille() : scene(Racine()) { GetParam().monter(scene); }
 
     static void TearDownTestSuite() {
-        const bool tous = testing::GTEST_FLAG(filter) == "*" || testing::GTEST_FLAG(filter) == "Actes/*";
+        const std::string & filtre = testing::GTEST_FLAG(filter);
+        const bool          tous   = filtre == "*" || filtre == "Actes/Coupures*";
         EXPECT_TRUE(!tous || morts_ >= morts_voulues) << morts_;
-        std::printf("coupures : %u processus tués, %u coupures de courant, %u fautes, %u pertes\n", morts_,
-                    courants_, fautes_, pertes_);
+        std::printf("coupures : %u runs, %u losses (processus tués %u, courant coupé %u, fautes %u)\n",
+                    morts_ + courants_ + fautes_, pertes_, morts_, courants_, fautes_);
     }
 
     // The number of calls that the act makes when nothing goes wrong, and their names.
@@ -294,10 +295,35 @@ TEST_P(Coupures_corbeille, le_courant_coupe_a_chaque_appel_ne_perd_rien) {
     const Constat entier = Compter(false);
     for (unsigned rang = 1; rang <= entier.appels; ++rang) {
         for (const Effet effet : Morts_de(entier.noms[rang - 1])) {
+            bool en_suspens = true;
+            for (const Fin fin : {Fin::courant, Fin::courant_zeros}) {
+                if (!en_suspens) break;
+                scene.Installer();
+                const Essai essai = Essayer(GetParam(), Racine(), {effet, rang}, fin);
+                ASSERT_TRUE(essai.constat.mort) << rang;
+                en_suspens = essai.constat.en_suspens;
+                Comparer(entier.noms[rang - 1] + ", coupure à l'appel " + std::to_string(rang) +
+                         (fin == Fin::courant ? "" : ", zéros"));
+                ++courants_;
+            }
+        }
+    }
+}
+
+// The next start is cut as well, at each of its own calls.
+TEST_P(Coupures_corbeille, le_courant_coupe_encore_au_depart_suivant_ne_perd_rien) {
+    static const Cas   depart = {"depart", L"ouvrir", nullptr, nullptr};
+    const Constat      entier = Compter(false);
+    const std::wstring acte   = GetParam().acte;
+    if (acte == depart.acte || acte == L"effacer_ailleurs") return;  // starts of their own
+    for (unsigned rang = 1; rang <= entier.appels; rang += 2) {
+        for (unsigned suivant = 1;; ++suivant) {
             scene.Installer();
-            const Essai essai = Essayer(GetParam(), Racine(), {effet, rang}, Fin::courant);
-            ASSERT_TRUE(essai.constat.mort) << rang;
-            Comparer(entier.noms[rang - 1] + ", coupure à l'appel " + std::to_string(rang));
+            Essayer(GetParam(), Racine(), {Effet::mourir_pendant, rang}, Fin::courant);
+            const Essai essai = Essayer(depart, Racine(), {Effet::mourir_pendant, suivant}, Fin::courant);
+            if (!essai.constat.mort) break;
+            Comparer(entier.noms[rang - 1] + ", coupures aux appels " + std::to_string(rang) + " et " +
+                     std::to_string(suivant));
             ++courants_;
         }
     }

@@ -1,0 +1,124 @@
+#include "app/globals.h"
+#include "platform/fichiers.h"
+#include "platform/parcours.h"
+#include "search/arborescence.h"
+#include "services/banc.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+using Liste = std::vector<std::wstring>;
+
+class Enumeration : public Banc {};
+
+TEST_F(Enumeration, une_visite_qui_refuse_la_suite_est_la_derniere) {
+    for (const wchar_t * nom : {L"a", L"b", L"c", L"d"}) Fichier(nom);
+    int visites = 0;
+    EXPECT_FALSE(Enumerer(Racine(), [&](const Entree_vue &) { return ++visites < 2; }));
+    EXPECT_EQ(2, visites);
+    EXPECT_TRUE(Enumerer(Racine(), [&](const Entree_vue &) { return ++visites < 100; }));
+    EXPECT_EQ(6, visites);
+}
+
+TEST_F(Enumeration, chaque_entree_dit_ce_qu_elle_est) {
+    Fichier(L"fichier", "12345");
+    Repertoire(L"sous");
+    Liste vues;
+    Enumerer(Racine(), [&](const Entree_vue & vue) {
+        EXPECT_FALSE(vue.lien);
+        EXPECT_NE(0u, vue.moment);
+        vues.push_back(std::wstring(vue.nom) + (vue.repertoire ? L" repertoire" : L" ") +
+                       (vue.repertoire ? L"" : std::to_wstring(vue.taille)));
+        return true;
+    });
+    std::sort(vues.begin(), vues.end());
+    EXPECT_EQ((Liste{L"fichier 5", L"sous repertoire"}), vues);
+}
+
+bool Toujours(const Arbre &, std::size_t) { return true; }
+
+Liste Chemins() {
+    Liste chemins;
+    for (std::size_t i = 0; i < Arborescence().Nombre(); ++i) chemins.push_back(Arborescence().Chemin(i));
+    return chemins;
+}
+
+void Preparer_d() {
+    Vider_repertoire(L"d:");
+    for (const wchar_t * nom : {L"d:\\zone", L"d:\\Alpha", L"d:\\été", L"d:\\zone\\b", L"d:\\zone\\A",
+                                L"d:\\Alpha\\fond", L"d:\\Alpha\\fond\\cache"})
+        CreateDirectoryW(nom, nullptr);
+    Poser(L"d:\\fichier.txt", "x");
+    Regler_attributs(L"d:\\Alpha\\fond\\cache", FILE_ATTRIBUTE_HIDDEN);
+    variables.Arborescence_perimee = false;
+}
+
+ESSAI_UNITE(D, l_arborescence_va_niveau_par_niveau_dans_l_ordre_des_listes) {
+    Preparer_d();
+    EXPECT_TRUE(Relever_arborescence(L"d:", Toujours));
+    EXPECT_EQ((Liste{L"d:\\", L"d:\\Alpha", L"d:\\été", L"d:\\zone", L"d:\\Alpha\\fond", L"d:\\zone\\A",
+                     L"d:\\zone\\b", L"d:\\Alpha\\fond\\cache"}),
+              Chemins());
+    EXPECT_EQ(0u, Repertoires_sautes());
+    EXPECT_TRUE(Arborescence_valide(L"D: [DONNEES]"));
+    EXPECT_FALSE(Arborescence_valide(L"c:"));
+}
+
+ESSAI_UNITE(D, un_repertoire_change_par_le_programme_perime_l_arborescence_jusqu_au_prochain_parcours) {
+    Preparer_d();
+    Relever_arborescence(L"d:", Toujours);
+    variables.Arborescence_perimee = true;
+    EXPECT_FALSE(Arborescence_valide(L"d:"));
+    Relever_arborescence(L"d:", Toujours);
+    EXPECT_TRUE(Arborescence_valide(L"d:"));
+}
+
+ESSAI_UNITE(D, un_parcours_arrete_laisse_ce_qu_il_a_lu) {
+    Preparer_d();
+    const auto deux_repertoires = [](const Arbre &, std::size_t index) { return index < 2; };
+    EXPECT_FALSE(Relever_arborescence(L"d:", deux_repertoires));
+    EXPECT_EQ((Liste{L"d:\\", L"d:\\Alpha", L"d:\\été", L"d:\\zone", L"d:\\Alpha\\fond"}), Chemins());
+    EXPECT_TRUE(Arborescence_valide(L"d:"));
+}
+
+ESSAI_UNITE(D, un_long_repertoire_laisse_la_main_en_chemin) {
+    Vider_repertoire(L"d:");
+    for (int i = 0; i < 600; ++i) Poser(L"d:\\f" + std::to_wstring(i), "");
+    int regards = 0;
+    EXPECT_FALSE(Relever_arborescence(L"d:", [&](const Arbre &, std::size_t) { return ++regards < 2; }));
+    EXPECT_EQ(2, regards);
+}
+
+ESSAI_UNITE(D, un_repertoire_disparu_pendant_le_parcours_est_saute_et_compte) {
+    Preparer_d();
+    const auto retirer = [](const Arbre & arbre, std::size_t index) {
+        if (arbre.Chemin(index) == L"d:\\été") RemoveDirectoryW(L"d:\\été");
+        return true;
+    };
+    EXPECT_TRUE(Relever_arborescence(L"d:", retirer));
+    EXPECT_EQ(1u, Repertoires_sautes());
+    EXPECT_EQ(8u, Arborescence().Nombre());
+}
+
+ESSAI_UNITE(A, un_autre_support_n_a_pas_l_arborescence_du_premier) {
+    Vider_repertoire(L"a:");
+    CreateDirectoryW(L"a:\\un", nullptr);
+    Relever_arborescence(L"a:", Toujours);
+    EXPECT_TRUE(Arborescence_valide(L"a:"));
+    // What another diskette shows at first sight.
+    RemoveDirectoryW(L"a:\\un");
+    EXPECT_FALSE(Arborescence_valide(L"a:"));
+    CreateDirectoryW(L"a:\\deux", nullptr);
+    EXPECT_FALSE(Arborescence_valide(L"a:"));
+    Vider_repertoire(L"a:");
+}
+
+ESSAI_UNITE(F, une_unite_sans_support_est_l_erreur_71_et_ne_garde_rien) {
+    EXPECT_EQ(71, Numero_leve([] { Relever_arborescence(L"f:", Toujours); }));
+    EXPECT_EQ(0u, Arborescence().Nombre());
+    EXPECT_FALSE(Arborescence_valide(L"f:"));
+}
+
+}  // namespace
