@@ -32,7 +32,7 @@ void Brancher(Gestion_Fichiers & f, Dialogue & d) {
     Brancher_commandes(f);
     Brancher_infos(f);
     Brancher_corbeille(f);
-    Brancher_chercher(f);
+    Brancher_chercher(f, {Fichier_srce_PathChange, Montrer_resultats});
     Brancher_dialogue(d);
 }
 }  // namespace

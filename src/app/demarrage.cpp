@@ -29,7 +29,7 @@ void Preparer_controles(Gestion_Fichiers & f) {
     for (Ligne * ligne : {&f.Ligne1, &f.Ligne2, &f.Ligne3}) ligne->BorderWidth(epaisseur_lignes);
     for (Controle * controle : std::initializer_list<Controle *>{
              &f.Tip, &f.Fichier_sél, &f.Créer, &f.Supprimer, &f.En_cours, &f.Ligne_commande, &f.Jauge,
-             &f.Arret, &f.Bouton_suite, &f.Répertoire, &f.Liste_rép, &f.Liste_sel}) {
+             &f.Arret, &f.Bouton_suite, &f.Liste_sel}) {
         controle->Visible(false);
     }
     for (Ligne & bord : f.Ligne_jauge) bord.Visible(false);

@@ -68,10 +68,11 @@ void Brancher_astuce(Fenetre & fille, Liste & liste, Etiquette & tip) {
 }
 
 void Placer_fille(Fenetre & fille, int droite, int bas) {
-    const Gestion_Fichiers & f = Principale();
-    const int a_gauche         = std::max(0, std::min(f.Left() + droite, Largeur_ecran() - fille.Width()));
-    const int en_haut          = std::max(0, std::min(f.Top() + bas, Hauteur_ecran() - fille.Height()));
-    fille.Move(a_gauche, en_haut);
+    const Gestion_Fichiers & f        = Principale();
+    const Rectangle_twips    zone     = Zone_de_travail(f);
+    const int                a_gauche = std::min(f.Left() + droite, zone.droite - fille.Width());
+    const int                en_haut  = std::min(f.Top() + bas, zone.bas - fille.Height());
+    fille.Move(std::max(zone.gauche, a_gauche), std::max(zone.haut, en_haut));
 }
 
 void Fermer_fille(Fenetre & fille) {

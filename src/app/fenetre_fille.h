@@ -24,7 +24,7 @@ void Brancher_abandon(Fenetre & fille, const std::function<void()> & abandonner)
 // The whole text of an entry too long for this list shows in `tip`, under the pointer. After Brancher_fille.
 void Brancher_astuce(Fenetre & fille, Liste & liste, Etiquette & tip);
 
-// Places the window `droite` and `bas` twips from the main window's top-left corner, whole on the screen.
+// Places the window `droite` and `bas` twips from the main window's top-left corner, whole on the screen where that window is.
 void Placer_fille(Fenetre & fille, int droite, int bas);
 // The closing routine: the window is hidden, which ends its modal showing, and the help panel takes the
 // general hint again.

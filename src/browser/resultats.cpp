@@ -7,30 +7,39 @@
 #include "platform/chemins.h"
 #include "platform/erreur.h"
 #include "platform/fichiers.h"
+#include "platform/textes.h"
 #include "toolkit/application.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 constexpr const wchar_t * etiquette = L"FICHIER SOURCE";
+
+// The texts of the list: lower case, whatever the case on disk.
+void Remplir_liste(Gestion_Fichiers & f) {
+    std::vector<std::wstring> minuscules;
+    minuscules.reserve(f.Resultats.size());
+    for (const Fichier_trouve & trouve : f.Resultats) minuscules.push_back(Minuscules(trouve.chemin));
+    std::vector<const wchar_t *> textes;
+    textes.reserve(minuscules.size());
+    for (const std::wstring & texte : minuscules) textes.push_back(texte.c_str());
+    f.Fichier_sél.Remplir(textes);
+}
 
 // The file is no longer there, as opposed to one on a drive that does not answer.
 bool Disparu(const Erreur_execution & erreur) {
     return erreur.numero == Numero::fichier_introuvable || erreur.numero == Numero::chemin_introuvable;
 }
 
-bool Est_disparu(const std::wstring & chemin) {
-    try {
-        Lire_attributs(chemin);
-        return false;
-    } catch (const Erreur_execution & erreur) {
-        return Disparu(erreur);
-    }
+const std::wstring & Chemin_resultat(const Gestion_Fichiers & f, int index) {
+    return f.Resultats[static_cast<std::size_t>(index)].chemin;
 }
 
 void Retirer(Gestion_Fichiers & f, int index) {
     f.Fichier_sél.RemoveItem(index);
-    f.Longueurs_resultats.erase(f.Longueurs_resultats.begin() + index);
+    f.Resultats.erase(f.Resultats.begin() + index);
+    variables.Nombre_trouves = f.Resultats.size();
 }
 
 // The first result whose length cannot be read.
@@ -39,15 +48,15 @@ struct Echec {
     Erreur_execution erreur;
 };
 
-// Reads the lengths of the selected results that are not known yet. Those behind the first failure are read as well unless the
+// Reads the lengths of the selected results that the search did not tell. Those behind the first failure are read as well unless the
 // drive itself fails: each of them would wait for it.
 std::optional<Echec> Lire_longueurs(Gestion_Fichiers & f, void (*entre_deux)()) {
     std::optional<Echec> echec;
     for (const int index : f.Fichier_sél.Selection()) {
-        auto & longueur = f.Longueurs_resultats[static_cast<std::size_t>(index)];
-        if (longueur) continue;
+        Fichier_trouve & trouve = f.Resultats[static_cast<std::size_t>(index)];
+        if (trouve.taille) continue;
         try {
-            longueur = Longueur_fichier(f.Fichier_sél.List(index));
+            trouve.taille = Longueur_fichier(trouve.chemin);
         } catch (const Erreur_execution & erreur) {
             if (!echec) echec = Echec{index, erreur};
             if (!Disparu(erreur)) return echec;
@@ -61,9 +70,9 @@ void Afficher_compte_resultats(Gestion_Fichiers & f) {
     const auto    selection = f.Fichier_sél.Selection();
     std::uint64_t total     = 0;
     for (const int index : selection) {
-        total += f.Longueurs_resultats[static_cast<std::size_t>(index)].value_or(0);
+        total += f.Resultats[static_cast<std::size_t>(index)].taille.value_or(0);
     }
-    const std::wstring premier = selection.empty() ? std::wstring() : f.Fichier_sél.List(selection.front());
+    const std::wstring premier = selection.empty() ? std::wstring() : Chemin_resultat(f, selection.front());
     Afficher_compte(f, selection.size(), total, std::wstring(Nom_du_chemin(premier)));
 }
 
@@ -71,19 +80,10 @@ void Afficher_compte_resultats(Gestion_Fichiers & f) {
 void Compter_et_signaler(Gestion_Fichiers & f, void (*entre_deux)()) {
     const auto echec = Lire_longueurs(f, entre_deux);
     if (!echec) return Afficher_compte_resultats(f);
-    variables.Fichier_courant = Nom_du_chemin(f.Fichier_sél.List(echec->index));
+    variables.Fichier_courant = Nom_du_chemin(Chemin_resultat(f, echec->index));
     if (Disparu(echec->erreur)) Retirer(f, echec->index);
     Afficher_compte_resultats(f);
     throw Erreur_execution(echec->erreur);
-}
-
-void Remplir(Gestion_Fichiers & f, const std::vector<std::wstring> & chemins) {
-    std::vector<const wchar_t *> textes;
-    textes.reserve(chemins.size());
-    for (const std::wstring & chemin : chemins) textes.push_back(chemin.c_str());
-    f.Fichier_sél.Remplir(textes);
-    f.Longueurs_resultats.assign(chemins.size(), std::nullopt);
-    f.Fichier_sél.Tout_selectionner(true);
 }
 
 // What was chosen in the results window is chosen: nothing but the drawing goes on while it is counted.
@@ -96,6 +96,43 @@ void Compter_a_l_arrivee(Gestion_Fichiers & f) {
 
 // A command that takes files away from where they are.
 bool Emporte(const std::wstring & commande) { return commande == L"EFFACER" || commande == L"DEPLACER"; }
+
+// Which of these results are gone, in order. Nothing more is asked of a drive that does not answer: each question would
+// wait for it.
+std::vector<int> Disparus(const Gestion_Fichiers & f, const std::vector<int> & traites) {
+    std::vector<int> disparus;
+    for (const int index : traites) {
+        try {
+            Lire_attributs(Chemin_resultat(f, index));
+        } catch (const Erreur_execution & erreur) {
+            if (!Disparu(erreur)) break;
+            disparus.push_back(index);
+        }
+        Application::Laisser_passer();
+    }
+    return disparus;
+}
+
+// Makes the list anew without these, which are in order: taking them out one by one would move the rest each time.
+void Retirer_tous(Gestion_Fichiers & f, const std::vector<int> & disparus, std::vector<int> choisis) {
+    const auto nombre_avant = [&](int index) {
+        return static_cast<int>(std::lower_bound(disparus.begin(), disparus.end(), index) - disparus.begin());
+    };
+    const auto est_disparu = [&](int index) {
+        return std::binary_search(disparus.begin(), disparus.end(), index);
+    };
+    const int                   haut = f.Fichier_sél.TopIndex();
+    std::vector<Fichier_trouve> restent;
+    restent.reserve(f.Resultats.size() - disparus.size());
+    for (std::size_t i = 0; i < f.Resultats.size(); ++i) {
+        if (!est_disparu(static_cast<int>(i))) restent.push_back(std::move(f.Resultats[i]));
+    }
+    f.Resultats = std::move(restent);
+    Remplir_liste(f);
+    f.Fichier_sél.TopIndex(std::max(0, haut - nombre_avant(haut)));
+    std::erase_if(choisis, est_disparu);
+    for (const int index : choisis) f.Fichier_sél.Selected(index - nombre_avant(index), true);
+}
 }  // namespace
 
 void Compter_resultats(Gestion_Fichiers & f) { Compter_et_signaler(f, nullptr); }
@@ -111,12 +148,14 @@ void Fichier_sél_Click() {
     variables.Fichier_courant.clear();
 }
 
-void Montrer_resultats(Gestion_Fichiers & f, const std::vector<std::wstring> & chemins) {
-    if (chemins.empty()) return;
+void Montrer_resultats(Gestion_Fichiers & f, std::vector<Fichier_trouve> trouves) {
+    if (trouves.empty()) return;
     Vider_selection(f);
-    Remplir(f, chemins);
+    f.Resultats = std::move(trouves);
+    Remplir_liste(f);
+    f.Fichier_sél.Tout_selectionner(true);
     variables.Mode_resultats = true;
-    variables.Nombre_trouves = chemins.size();
+    variables.Nombre_trouves = f.Resultats.size();
     f.Fichier_sél.Visible(true);
     if (f.Fichier_srce.A_le_focus()) f.Fichier_sél.SetFocus();
     f.Fichier_srce.Visible(false);
@@ -134,23 +173,23 @@ void Quitter_resultats(Gestion_Fichiers & f) {
     if (f.Fichier_sél.A_le_focus()) f.Fichier_srce.SetFocus();
     f.Fichier_sél.Visible(false);
     f.Fichier_sél.Clear();
-    f.Longueurs_resultats.clear();
+    f.Resultats.clear();
 }
 
 bool Reprendre_resultats(Gestion_Fichiers & f, const std::wstring & commande) {
-    const Garde garde;
-    const int   dernier = variables.Index_courant - 1;
-    auto        choisis = f.Fichier_sél.Selection();
+    const Garde      garde;
+    const int        dernier = variables.Index_courant - 1;
+    std::vector<int> choisis = f.Fichier_sél.Selection();
     Terminer_tout_selectionne(f);
-    // From the last on: a result that leaves moves those behind it.
-    std::reverse(choisis.begin(), choisis.end());
-    for (const int index : choisis) {
-        if (index > dernier) continue;
-        if (Est_disparu(f.Fichier_sél.List(index)))
-            Retirer(f, index);
-        else if (index < dernier && !Emporte(commande))
-            f.Fichier_sél.Selected(index, false);
+    const auto             suite    = std::upper_bound(choisis.begin(), choisis.end(), dernier);
+    const std::vector<int> disparus = Disparus(f, {choisis.begin(), suite});
+    if (!Emporte(commande)) {
+        const auto faits = std::lower_bound(choisis.begin(), choisis.end(), dernier);
+        std::for_each(choisis.begin(), faits, [&](int index) { f.Fichier_sél.Selected(index, false); });
+        choisis.erase(choisis.begin(), faits);
     }
+    if (!disparus.empty()) Retirer_tous(f, disparus, choisis);
+    variables.Nombre_trouves = f.Resultats.size();
     Afficher_compte_resultats(f);
     return f.Fichier_sél.ListCount() > 0;
 }

@@ -53,15 +53,18 @@ Arrivee Proposer(Gestion_Fichiers & f, const Panneau & p) {
     const std::wstring unite   = p.unite.Drive().substr(0, 2);
     const auto         trouves = Chercher_repertoire(f, unite, variables.Nom_cherche);
     if (!trouves) return Arrivee::abandonnee;
-    if (trouves->empty()) return Arrivee::introuvable;
+    Arrivee arrivee = Arrivee::introuvable;
     for (const std::wstring & chemin : *trouves) {
+        // Removed since the disk was walked. Asked for each in its turn: a drive may take its time over each answer.
+        if (!Repertoire_existe(chemin)) continue;
+        arrivee           = Arrivee::abandonnee;
         variables.Reponse = Demander_confirmation(chemin);
         if (variables.Reponse == Reponse_boite::annuler) break;
         if (variables.Reponse != Reponse_boite::oui) continue;
         p.repertoire.Path(chemin);
         return Arrivee::faite;
     }
-    return Arrivee::abandonnee;
+    return arrivee;
 }
 
 void Suivre_unite(const Panneau & p) {

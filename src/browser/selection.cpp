@@ -38,9 +38,9 @@ Liste & Liste_montree(Gestion_Fichiers & f) {
 }
 
 Fichier_choisi Resultat(const Gestion_Fichiers & f, int index) {
-    const std::wstring chemin = f.Fichier_sél.List(index);
-    return {std::wstring(Nom_du_chemin(chemin)), std::wstring(Repertoire_du_chemin(chemin)),
-            f.Longueurs_resultats[static_cast<std::size_t>(index)].value_or(0), index};
+    const Fichier_trouve & trouve = f.Resultats[static_cast<std::size_t>(index)];
+    return {std::wstring(Nom_du_chemin(trouve.chemin)), std::wstring(Repertoire_du_chemin(trouve.chemin)),
+            trouve.taille.value_or(0), index};
 }
 
 void Boutons_un_fichier(Gestion_Fichiers & f, bool actifs) {
@@ -87,8 +87,7 @@ int Prochaine(const Liste & liste, int debut, bool avant) {
     return -1;
 }
 
-// A result as it is now: its length, and its name as spelled on disk. Results are in lower case, which the files that a
-// command makes of them are not.
+// A result as it is now: its length, and its name as spelled on disk.
 void Relire(Fichier_choisi & fichier, const std::wstring & chemin) {
     const Entree_repertoire entree = Lire_entree(chemin);
     if ((entree.attributs & Attribut::repertoire) != 0) {
@@ -132,9 +131,9 @@ void Selection_suivante(int direction) {
     if (index < 0) return;
     variables.Index_courant   = index + (avant ? 1 : -1);
     variables.Fichier_trouve  = true;
-    const std::wstring texte  = liste.List(index);
-    variables.Fichier_courant = Nom_du_chemin(texte);
-    variables.Chemin_source   = variables.Mode_resultats ? texte : Joindre(f.Fichier_srce.Path(), texte);
+    variables.Chemin_source   = variables.Mode_resultats ? f.Resultats[static_cast<std::size_t>(index)].chemin
+                                                         : Joindre(f.Fichier_srce.Path(), liste.List(index));
+    variables.Fichier_courant = Nom_du_chemin(variables.Chemin_source);
 }
 
 void Chemins_fichier() {

@@ -1,4 +1,6 @@
 #pragma once
+#include "platform/parcours.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -56,9 +58,9 @@ void Fichier_srce_Click();
 
 // The files found by a search, in the place of the SOURCE files.
 
-// Shows them (full paths), all selected and counted: the next command works on them. Nothing happens with none.
-// A length that cannot be read is reported here.
-void Montrer_resultats(Gestion_Fichiers & f, const std::vector<std::wstring> & chemins);
+// Shows them in lower case, all selected and counted: the next command works on them, as they are spelled on disk. Nothing
+// happens with none. A length that the search did not know and that cannot be read is reported here.
+void Montrer_resultats(Gestion_Fichiers & f, std::vector<Fichier_trouve> trouves);
 // Back to the SOURCE files. Whatever reads the SOURCE list again does it, the end of a command included.
 void Quitter_resultats(Gestion_Fichiers & f);
 // After a command that an error ended: the files that it did not treat stay selected and are counted, those that

@@ -17,6 +17,7 @@
 #include "toolkit/boites.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 #include <vector>
 
@@ -33,6 +34,8 @@ class Purge_finale {
 public:
     Purge_finale() = default;
     ~Purge_finale() {
+        // Stopped, the command still does it; a further stop ends this.
+        variables.Arret_demande = false;
         if (variables.Corbeille_active) Tenter(Purger_corbeille);
     }
     Purge_finale(const Purge_finale &)             = delete;
@@ -56,6 +59,7 @@ private:
     bool Taille_acceptee(const Depot & depot);
     bool Deposer_lot();
 
+    void        Avec_les_precedents(const std::function<void()> & lecture);
     Depot       Depot_courant(bool demande) const;
     std::size_t Deposer_un_a_un();
     std::size_t Rang(const std::wstring & chemin) const;
@@ -89,10 +93,16 @@ void Effacement::Executer() {
     Deposer_lot();
 }
 
-// What was gathered before a file that is gone by now is stored all the same.
 bool Effacement::Suivant() {
+    bool suivant = false;
+    Avec_les_precedents([&] { suivant = parcours_.Suivant(); });
+    return suivant;
+}
+
+// What was gathered before a file that is gone by now is stored all the same.
+void Effacement::Avec_les_precedents(const std::function<void()> & lecture) {
     try {
-        return parcours_.Suivant();
+        lecture();
     } catch (const Erreur_execution &) {
         const std::wstring fichier = variables.Fichier_courant;
         Deposer_lot();
@@ -127,18 +137,19 @@ bool Effacement::Detruire_courant() {
     return !variables.Arret_demande;
 }
 
-// Whoever answers questions gives a file the time to change, and search results are not spelled as the disk
-// spells them.
+// A file may have grown since it was listed. Whoever answers questions gives it the time to change, and search results are not
+// spelled as the disk spells them.
 Depot Effacement::Depot_courant(bool demande) const {
     const Fichier_choisi & fichier = parcours_.Courant();
-    if (!demande && !variables.Mode_resultats) return {fichier.nom, fichier.repertoire, fichier.taille};
-    const Entree_repertoire entree = Lire_entree(variables.Chemin_source);
-    return {entree.nom, fichier.repertoire, entree.taille};
+    const std::uint64_t    taille  = Lire_etat(variables.Chemin_source).taille;
+    if (!demande && !variables.Mode_resultats) return {fichier.nom, fichier.repertoire, taille};
+    return {Lire_entree(variables.Chemin_source).nom, fichier.repertoire, taille};
 }
 
 bool Effacement::Deposer_courant() {
     const bool demande = variables.Mode_effacement >= 0;
-    Depot      depot   = Depot_courant(demande);
+    Depot      depot;
+    Avec_les_precedents([&] { depot = Depot_courant(demande); });
     if (lot_.size() >= taille_lot && !Deposer_lot()) return false;
     if (Plus_grand_que_corbeille(depot.taille) && !Taille_acceptee(depot)) return false;
     lot_.push_back(std::move(depot));

@@ -44,10 +44,9 @@ void Vider(Info_Fichiers & w) {
     w.Attributs_changes = false;
 }
 
-void Remplir(Info_Fichiers & w) {
-    const Application::Sablier sablier;
-    const std::wstring &       chemin = variables.Chemin_source;
-    const Entree_repertoire    entree = Lire_entree(chemin);
+void Montrer_informations(Info_Fichiers & w) {
+    const std::wstring &    chemin = variables.Chemin_source;
+    const Entree_repertoire entree = Lire_entree(chemin);
     // A link is listed with its own length.
     const bool lien = (entree.attributs & Attribut::lien) != 0;
     w.Taille.Text(Format_milliers(lien ? Longueur_fichier(chemin) : entree.taille));
@@ -60,9 +59,19 @@ void Remplir(Info_Fichiers & w) {
     w.Attributs_changes = false;
 }
 
+// The boxes are disabled only for a file that cannot be shown: the focus stays on the one it is on.
+void Remplir(Info_Fichiers & w) {
+    const Application::Sablier sablier;
+    try {
+        Montrer_informations(w);
+    } catch (...) {
+        Vider(w);
+        throw;
+    }
+}
+
 void Afficher_fichier(Info_Fichiers & w) {
     w.Caption(L"Informations sur " + Majuscules(variables.Fichier_courant));
-    Vider(w);
     Pieger(L"INFOS-Affiche", [&] { Remplir(w); });
 }
 
@@ -116,7 +125,6 @@ bool Proposer_enregistrement(Info_Fichiers & w) {
         },
         [&] {
             quitte = false;
-            Vider(w);
             Remplir(w);
         });
     return quitte;
@@ -134,8 +142,18 @@ void Fin_Click(Info_Fichiers & w) {
     if (Proposer_enregistrement(w)) Fermer_fille(w);
 }
 
+bool Est_montre(const Info_Fichiers & w) { return w.Caché.Enabled(); }
+
 // The first control that something can be done with.
-void Premier_focus(Info_Fichiers & w) { w.Caché.Enabled() ? w.Caché.SetFocus() : w.Fin.SetFocus(); }
+void Premier_focus(Info_Fichiers & w) { Est_montre(w) ? w.Caché.SetFocus() : w.Fin.SetFocus(); }
+
+// When the first file cannot be shown, stepping leads to another one, if there is any.
+bool Reste_a_montrer() {
+    variables.Index_courant = 0;
+    for (Selection_suivante(1); variables.Fichier_trouve; Selection_suivante(1))
+        if (Fichier_existe(variables.Chemin_source)) return true;
+    return false;
+}
 
 void Brancher(Info_Fichiers & w) {
     Brancher_fille(w, aide_fenetre_infos);
@@ -171,14 +189,15 @@ void Consulter_selection(const Gestion_Fichiers & f) {
     w.Suivant.Enabled(plusieurs);
     Aller(w, 0, 1);
     (plusieurs ? w.Suivant : w.Fin).SetFocus();
-    w.Show_modal(Principale());
+    if (Est_montre(w) || Reste_a_montrer()) w.Show_modal(Principale());
     variables.Index_courant = 0;
     // Nothing is under way: a later report must not name this file.
     variables.Fichier_courant.clear();
     Actualiser_panneaux();
 }
 
-// Whether the file lists show such files; whatever their pattern leaves out, it is in the directory.
+// Whether the file lists show such files: what is stored in the recycle bin is hidden, and is not in the directory for the user.
+// What their pattern leaves out is.
 bool Montrable(const Liste_fichiers & liste, const Entree_repertoire & entree) {
     if ((entree.attributs & Attribut::cache) != 0 && !liste.Hidden()) return false;
     return (entree.attributs & Attribut::systeme) == 0 || liste.System();

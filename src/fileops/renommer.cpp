@@ -41,15 +41,6 @@ void Renommer_fichiers() {
     });
 }
 
-// What the bin holds in the directory keeps its records.
-void Renommer_et_suivre(const std::wstring & ancien, const std::wstring & nouveau) {
-    const auto renommer = [&] { Renommer_fichier(ancien, nouveau); };
-    if (variables.Corbeille_active && Tenter(Exiger_corbeille))
-        Magasin_corbeille().Suivre_repertoire(ancien, nouveau, renommer);
-    else
-        renommer();
-}
-
 void Renommer_repertoire() {
     Garder(L"RENOMMER", [](Gestion_Fichiers & f) {
         if (variables.Confirme_commande && !Confirmer_repertoire(f, L"le répertoire ")) return;
@@ -61,8 +52,8 @@ void Renommer_repertoire() {
         if (nom.empty()) return;
         const Hors_de_source ailleurs(f);
         Destination_incluse  destination(f);
-        Renommer_et_suivre(repertoire, Joindre(parent, nom));
         Perimer_repertoires();
+        Renommer_repertoire_suivi(repertoire, Joindre(parent, nom));
         destination.Suivre(nom);
         Aller(f.Répertoire_srce, parent, Joindre(parent, nom));
     });

@@ -67,7 +67,8 @@ inline constexpr const wchar_t * aide_imprimer =
 inline constexpr const wchar_t * aide_info =
     L"  Ce bouton permet de connaître et de modifier les informations du(des) fichier(s) "
     L"sélectionné(s) : taille, date, heure et attributs. Sans sélection, il totalise les fichiers du "
-    L"répertoire 'SOURCE'.";
+    L"répertoire 'SOURCE', quel que soit leur modèle, sans les fichiers cachés ou du système que les listes ne "
+    L"montrent pas.";
 inline constexpr const wchar_t * aide_chercher =
     L"  Ce bouton permet de rechercher des fichiers sur tout le disque 'SOURCE' pour leur appliquer "
     L"ensuite une commande.";

@@ -1,5 +1,6 @@
 #pragma once
 #include "forms/aide_gestion_fichiers.h"
+#include "platform/parcours.h"
 #include "toolkit/controles.h"
 #include "toolkit/fenetre.h"
 #include "toolkit/listes.h"
@@ -7,7 +8,6 @@
 
 #include <array>
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -89,16 +89,13 @@ struct Gestion_Fichiers : Fenetre {
     Bouton_commande   Quitter            {*this, {L"Quitter",            9480,  6375,  1950,  360, L"&Quitter",               aide_quitter}};
     // Help panel: below the client area until the window is made taller
     Etiquette         Fenêtre            {*this, {L"Fenêtre",             120,  6855, 11310,  990, L""}, Alignement::gauche, false, true};
-    // Never shown: the disk tree and the patterns of the saved selections
-    Liste_repertoires Répertoire         {*this, {L"Répertoire",          240,  1290,  4260, 1500, L""}};
-    Liste             Liste_rép          {*this, {L"Liste_rép",           240,  2880,  4260, 2100, L""}, false};
+    // Never shown: the patterns of the saved selections
     Liste             Liste_sel          {*this, {L"Liste_sel",           240,  2880,  4260, 2100, L""}, false};
     // clang-format on
 
-    std::wstring  Titre_sauve;          // caption that the window takes when it is no icon
-    std::wstring  Motif_courant;        // last pattern that the lists accepted
-    std::wstring  Premier_fichier;      // first of the files counted on the message line
-    std::uint64_t Total_selection = 0;  // bytes of the files counted on the message line
-    std::vector<std::optional<std::uint64_t>>
-        Longueurs_resultats;  // bytes, entry by entry; none not read yet
+    std::wstring                Titre_sauve;          // caption that the window takes when it is no icon
+    std::wstring                Motif_courant;        // last pattern that the lists accepted
+    std::wstring                Premier_fichier;      // first of the files counted on the message line
+    std::uint64_t               Total_selection = 0;  // bytes of the files counted on the message line
+    std::vector<Fichier_trouve> Resultats;            // of Fichier_sél, entry by entry
 };

@@ -36,6 +36,12 @@ void Fixer(HANDLE fichier, const std::wstring & chemin) {
     if (!FlushFileBuffers(fichier)) Lever_derniere_erreur(Acte::ecrire, chemin);
 }
 
+bool Fixer_chemin(const std::wstring & chemin, DWORD options) {
+    const Poignee_fichier fichier(CreateFileW(Forme_longue(chemin).c_str(), GENERIC_WRITE, partage, nullptr,
+                                              OPEN_EXISTING, options, nullptr));
+    return fichier.Valide() && FlushFileBuffers(fichier.Valeur()) != FALSE;
+}
+
 // A hidden or read-only file refuses to be made anew.
 void Oter(const std::wstring & forme) {
     SetFileAttributesW(forme.c_str(), FILE_ATTRIBUTE_NORMAL);
@@ -134,8 +140,9 @@ void Ecrire_fichier(const std::wstring & chemin, std::string_view octets, std::u
     Remplir(forme, octets, attributs, chemin);
 }
 
-bool Fixer_fichier(const std::wstring & chemin) {
-    const Poignee_fichier fichier(CreateFileW(Forme_longue(chemin).c_str(), GENERIC_WRITE, partage, nullptr,
-                                              OPEN_EXISTING, 0, nullptr));
-    return fichier.Valide() && FlushFileBuffers(fichier.Valeur()) != FALSE;
+bool Fixer_fichier(const std::wstring & chemin) { return Fixer_chemin(chemin, 0); }
+
+// Directories open with this option alone.
+bool Fixer_repertoire(const std::wstring & chemin) {
+    return Fixer_chemin(chemin, FILE_FLAG_BACKUP_SEMANTICS);
 }

@@ -30,3 +30,5 @@ void Ecrire_fichier(const std::wstring & chemin, std::string_view octets, std::u
 
 // What was done to a file, its name included, reaches the disk; false when the file could not be opened for that.
 bool Fixer_fichier(const std::wstring & chemin);
+// The same for a directory.
+bool Fixer_repertoire(const std::wstring & chemin);

@@ -88,6 +88,16 @@ Entree_repertoire Lire_entree(const std::wstring & chemin) {
     return Entree(trouve);
 }
 
+Entree_repertoire Lire_etat(const std::wstring & chemin) {
+    WIN32_FILE_ATTRIBUTE_DATA lu;
+    if (!GetFileAttributesExW(Forme_longue(chemin).c_str(), GetFileExInfoStandard, &lu))
+        Lever_derniere_erreur(Acte::ouvrir, chemin);
+    return {{},
+            En_64(lu.nFileSizeHigh, lu.nFileSizeLow),
+            En_64(lu.ftLastWriteTime.dwHighDateTime, lu.ftLastWriteTime.dwLowDateTime),
+            lu.dwFileAttributes};
+}
+
 std::uint32_t Lire_attributs(const std::wstring & chemin) {
     const DWORD attributs = GetFileAttributesW(Forme_longue(chemin).c_str());
     if (attributs == INVALID_FILE_ATTRIBUTES) Lever_derniere_erreur(Acte::ouvrir, chemin);

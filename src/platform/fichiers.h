@@ -45,6 +45,8 @@ std::uint64_t Longueur_fichier(const std::wstring & chemin);
 // One file or directory as its directory lists it, the name as spelled on disk (empty for a root). Errors 53, 76, 68, 71; 64
 // for a name that the system would take for a pattern.
 Entree_repertoire Lire_entree(const std::wstring & chemin);
+// The same by the path alone, without its name: the length is that of this moment, also while a program writes it.
+Entree_repertoire Lire_etat(const std::wstring & chemin);
 std::uint32_t     Lire_attributs(const std::wstring & chemin);
 void Ecrire_attributs(const std::wstring & chemin, std::uint32_t attributs);  // exactly these; 0 means normal
 

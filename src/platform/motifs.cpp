@@ -13,6 +13,8 @@ constexpr wchar_t course_sans_point = L'<';
 constexpr wchar_t un_ou_rien        = L'>';
 constexpr wchar_t point_ou_fin      = L'"';
 
+constexpr const wchar_t * jokers = L"*<>\"";
+
 std::wstring_view sans_blancs(std::wstring_view texte) {
     const std::size_t debut = texte.find_first_not_of(L" \t");
     if (debut == texte.npos) return {};
@@ -55,7 +57,7 @@ public:
 
     bool Finir() {
         for (std::size_t j = 0; j < motif_.size(); ++j) {
-            if (ici_[j] && std::wstring_view(L"*<>\"").find(motif_[j]) != std::wstring_view::npos)
+            if (ici_[j] && std::wstring_view(jokers).find(motif_[j]) != std::wstring_view::npos)
                 ici_[j + 1] = 1;
         }
         return ici_.back() != 0;
@@ -85,7 +87,21 @@ private:
     std::vector<char>    ici_, suite_;
 };
 
+// What stands before the first wildcard and behind the last one is found as it is at both ends of the name: most names of a disk
+// are told apart there, for a tenth of the price of a march.
+bool bouts_conformes(const std::wstring & motif, std::wstring_view nom, Motifs::Plier plier) {
+    const std::size_t premier = motif.find_first_of(jokers);
+    const std::size_t tete    = std::min(premier, motif.size());
+    const std::size_t queue   = premier == motif.npos ? 0 : motif.size() - 1 - motif.find_last_of(jokers);
+    if (nom.size() < tete + queue) return false;
+    const auto egal = [plier](wchar_t pliee, wchar_t lettre) { return pliee == plier(lettre); };
+    return std::equal(motif.rbegin(), motif.rbegin() + static_cast<std::ptrdiff_t>(queue), nom.rbegin(),
+                      egal) &&
+           std::equal(motif.begin(), motif.begin() + static_cast<std::ptrdiff_t>(tete), nom.begin(), egal);
+}
+
 bool accepte(const std::wstring & motif, std::wstring_view nom, Motifs::Plier plier) {
+    if (!bouts_conformes(motif, nom, plier)) return false;
     const std::size_t dernier_point = nom.rfind(L'.');
     Marche            marche(motif);
     for (std::size_t i = 0; i < nom.size(); ++i) {

@@ -1,6 +1,7 @@
 #pragma once
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,12 @@ struct Entree_vue {
     std::uint32_t     attributs  = 0;
     bool              repertoire = false;
     bool              lien       = false;  // leads elsewhere: a walk of the tree does not go into it
+};
+
+// A file that a walk found.
+struct Fichier_trouve {
+    std::wstring                 chemin;  // as spelled on disk
+    std::optional<std::uint64_t> taille;  // bytes; none for a link, whose own length says nothing
 };
 
 // Visits what one directory holds, "." and ".." left out, in the order of the system, and keeps nothing of it:

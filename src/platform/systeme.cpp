@@ -4,12 +4,14 @@
 #include "platform/textes.h"
 #include "platform/windows.h"
 
+#include <algorithm>
 #include <sddl.h>
 #include <shlobj.h>
 
 namespace {
-constexpr std::int64_t jours_avant_origine = 109205;  // from 1 January 1601 to 30 December 1899
-constexpr std::int64_t unites_par_jour     = 864000000000;
+constexpr std::int64_t  jours_avant_origine = 109205;  // from 1 January 1601 to 30 December 1899
+constexpr std::int64_t  unites_par_jour     = 864000000000;
+constexpr std::uint64_t tranche             = 50;  // milliseconds of a wait between two looks at events
 
 // A mutex that every user may take: with the usual rights, the first user's would shut the others out.
 HANDLE Mutex_de_tous(const std::wstring & nom) {
@@ -79,13 +81,24 @@ std::int32_t Jour_serie() {
     return static_cast<std::int32_t>(unites / unites_par_jour - jours_avant_origine);
 }
 
-Exclusivite::Exclusivite(const wchar_t * nom, unsigned attente)
+Exclusivite::Exclusivite(const wchar_t * nom, unsigned attente, const std::function<void()> & entretemps)
     : poignee_(Mutex_de_tous(std::wstring(L"Global\\") + nom)) {
     if (poignee_ == nullptr) return;  // without it, the others are only not waited for
-    // A program killed while it had its turn leaves it to the next one.
-    if (WaitForSingleObject(poignee_, attente) != WAIT_TIMEOUT) return;
+    if (Attendre(attente, entretemps)) return;
     CloseHandle(poignee_);
     throw Erreur_execution(Numero::permission_refusee, ERROR_LOCK_VIOLATION, nom);
+}
+
+// A program killed while it had its turn leaves it to the next one.
+bool Exclusivite::Attendre(std::uint64_t attente, const std::function<void()> & entretemps) const {
+    const std::uint64_t debut = Horloge_ms();
+    for (std::uint64_t ecoule = 0;; ecoule = Horloge_ms() - debut) {
+        const std::uint64_t reste = attente - std::min(ecoule, attente);
+        const auto          part  = static_cast<DWORD>(entretemps ? std::min(reste, tranche) : reste);
+        if (WaitForSingleObject(poignee_, part) != WAIT_TIMEOUT) return true;
+        if (part == reste) return false;
+        entretemps();
+    }
 }
 
 Exclusivite::~Exclusivite() {

@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <functional>
 #include <string>
 
 std::wstring  Repertoire_programme();  // where the executable is, without a final "\" but for a root
@@ -26,14 +27,17 @@ std::wstring Repertoire_donnees_locales();  // the user's, on this machine; empt
 std::int32_t Jour_serie();
 
 // Keeps the other programs of this machine that ask for the same name waiting while it lives, those of other users too. A longer
-// wait than `attente` (milliseconds) gives error 70.
+// wait than `attente` (milliseconds) gives error 70. `entretemps` is called again and again during the wait.
 class Exclusivite {
 public:
-    explicit Exclusivite(const wchar_t * nom, unsigned attente = 5000);
+    explicit Exclusivite(const wchar_t * nom, unsigned attente = 5000,
+                         const std::function<void()> & entretemps = {});
     ~Exclusivite();
     Exclusivite(const Exclusivite &)             = delete;
     Exclusivite & operator=(const Exclusivite &) = delete;
 
 private:
+    bool Attendre(std::uint64_t attente, const std::function<void()> & entretemps) const;
+
     void * poignee_ = nullptr;
 };

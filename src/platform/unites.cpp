@@ -1,7 +1,10 @@
 #include "platform/unites.h"
 
+#include "platform/poignee.h"
 #include "platform/textes.h"
 #include "platform/windows.h"
+
+#include <winioctl.h>
 
 #include <algorithm>
 
@@ -57,6 +60,28 @@ Unite Decrire(wchar_t lettre) {
     }
 }
 
+// The letter stands for a directory, which may be anywhere, or for nothing that the system knows.
+bool Lettre_substituee(const std::wstring & unite) {
+    wchar_t cible[MAX_PATH + 1];
+    return QueryDosDeviceW(unite.c_str(), cible, MAX_PATH + 1) == 0 ||
+           std::wstring_view(cible).starts_with(L"\\??\\");
+}
+
+// A disk in a box of its own is a fixed one to the system. One that does not know the question is no such disk.
+bool Debranchable(const std::wstring & unite) {
+    const Poignee_fichier volume(CreateFileW((L"\\\\.\\" + unite).c_str(), 0,
+                                             FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0,
+                                             nullptr));
+    STORAGE_HOTPLUG_INFO  lu{};
+    DWORD                 recus = 0;
+    if (!volume.Valide()) return true;
+    if (DeviceIoControl(volume.Valeur(), IOCTL_STORAGE_GET_HOTPLUG_INFO, nullptr, 0, &lu, sizeof lu, &recus,
+                        nullptr))
+        return lu.MediaRemovable || lu.MediaHotplug || lu.DeviceHotplug;
+    const DWORD code = GetLastError();
+    return code != ERROR_INVALID_FUNCTION && code != ERROR_NOT_SUPPORTED;
+}
+
 }  // namespace
 
 std::vector<Unite> Unites_presentes() {
@@ -79,4 +104,9 @@ std::uint64_t Octets_libres(const std::wstring & racine) {
 bool Support_amovible(const std::wstring & racine) {
     const UINT genre = GetDriveTypeW(racine.c_str());
     return genre == DRIVE_REMOVABLE || genre == DRIVE_CDROM;
+}
+
+bool Support_fixe(const std::wstring & racine) {
+    const std::wstring unite = racine.substr(0, 2);
+    return GetDriveTypeW(racine.c_str()) == DRIVE_FIXED && !Lettre_substituee(unite) && !Debranchable(unite);
 }

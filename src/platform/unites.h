@@ -19,3 +19,5 @@ std::uint64_t Octets_libres(const std::wstring & racine);
 
 // Whether the medium of that drive ("c:\") can be another one tomorrow. Never touches it.
 bool Support_amovible(const std::wstring & racine);
+// Whether that drive is sure to be the same one tomorrow: a disk of this machine that cannot be pulled out, under its own letter.
+bool Support_fixe(const std::wstring & racine);

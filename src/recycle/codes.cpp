@@ -28,17 +28,17 @@ Numeros_pris Relever(const std::wstring & repertoire, std::int32_t jour,
 
 }  // namespace
 
-std::wstring Codes_libres::Choisir(const std::wstring & repertoire, std::int32_t jour,
+std::wstring Codes_libres::Choisir(const Fiche & fiche, std::int32_t jour,
                                    const std::vector<Ligne_index> & lignes) {
     if (jour != jour_) Oublier();
     jour_                   = jour;
-    const std::wstring cle  = Sans_casse(repertoire);
+    const std::wstring cle  = Sans_casse(fiche.repertoire);
     auto               lieu = pris_.find(cle);
     // Names come free again without this being told.
     if (lieu == pris_.end() || lieu->second.Tous())
-        lieu = pris_.insert_or_assign(cle, Relever(repertoire, jour, lignes)).first;
+        lieu = pris_.insert_or_assign(cle, Relever(fiche.repertoire, jour, lignes)).first;
     const auto numero = lieu->second.Tirer(hasard_);
-    if (!numero) throw Erreur_execution(Numero::fichier_existe, 0, repertoire);
+    if (!numero) throw Erreur_execution(Numero::fichier_existe, 0, fiche.Chemin_avant());
     lieu->second.Prendre(*numero);
     return Nom_code(jour, *numero);
 }

@@ -12,9 +12,8 @@ class Codes_libres {
 public:
     explicit Codes_libres(Hasard hasard) : hasard_(std::move(hasard)) {}
 
-    // A name for one more file of that directory. It is taken from then on. Error 58 when all are.
-    std::wstring Choisir(const std::wstring & repertoire, std::int32_t jour,
-                         const std::vector<Ligne_index> & lignes);
+    // A name for that file, in its directory. It is taken from then on. Error 58, of that file, when all are.
+    std::wstring Choisir(const Fiche & fiche, std::int32_t jour, const std::vector<Ligne_index> & lignes);
     // What is known of the directories is looked at again.
     void Oublier() { pris_.clear(); }
 

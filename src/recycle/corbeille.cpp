@@ -5,15 +5,19 @@
 #include "app/settings.h"
 #include "platform/chemins.h"
 #include "platform/erreur.h"
+#include "platform/fichiers.h"
 #include "platform/nombres.h"
 #include "platform/profil.h"
 #include "platform/systeme.h"
+#include "toolkit/application.h"
 
 #include <algorithm>
 #include <limits>
 
 namespace {
 
+constexpr const wchar_t * nom_index   = L"KORVANE.CRB";
+constexpr const wchar_t * nom_reecrit = L"KORVANE.NEW";
 // Characters of the read buffer, terminator included.
 constexpr unsigned      tampon_total = 9;
 constexpr std::uint64_t plus_grand   = std::numeric_limits<std::int32_t>::max();
@@ -32,6 +36,32 @@ void Lire_total() {
     variables.Total_corbeille = static_cast<std::int32_t>(std::max(Valeur(total), 0.0));
 }
 
+bool Index_existe() {
+    const std::vector<std::wstring> lieux = Lieux();
+    return std::any_of(lieux.begin(), lieux.end(), [](const std::wstring & lieu) {
+        return Fichier_existe(Joindre(lieu, nom_index)) || Fichier_existe(Joindre(lieu, nom_reecrit));
+    });
+}
+
+// The store for one step; a bin that is not in use is closed after it, and its total does not count.
+class Ouverture {
+public:
+    Ouverture() {
+        // Named by the report, should the index not be readable.
+        variables.Fichier_courant = nom_index;
+        if (variables.Corbeille_active)
+            Exiger_corbeille();
+        else if (!Magasin_corbeille().Ouvert())
+            Magasin_corbeille().Ouvrir(Lieux());
+        variables.Fichier_courant.clear();
+    }
+    ~Ouverture() {
+        if (!variables.Corbeille_active) Magasin_corbeille().Fermer();
+    }
+    Ouverture(const Ouverture &)             = delete;
+    Ouverture & operator=(const Ouverture &) = delete;
+};
+
 // How many of them the total has room for.
 std::size_t Tiennent(const std::vector<Depot> & depots) {
     auto        total = static_cast<std::uint64_t>(std::max(variables.Total_corbeille, 0));
@@ -42,10 +72,16 @@ std::size_t Tiennent(const std::vector<Depot> & depots) {
 
 Limites_corbeille Limites() { return {variables.Taille_corbeille, variables.Temps_corbeille}; }
 
+// Another program has its turn: windows are drawn meanwhile, and no command starts.
+void Attendre_son_tour() {
+    const Garde garde;
+    Application::Laisser_passer();
+}
+
 }  // namespace
 
 Magasin & Magasin_corbeille() {
-    static Magasin magasin;
+    static Magasin magasin(Attendre_son_tour);
     return magasin;
 }
 
@@ -64,18 +100,31 @@ void Exiger_corbeille() {
     Recalculer_total();
 }
 
+bool Laisser_continuer() {
+    Application::Laisser_passer();
+    return !variables.Arret_demande && !Application::Terminee();
+}
+
 void Purger_corbeille() {
     Magasin & magasin = Magasin_corbeille();
     if (!magasin.Ouvert()) return;
+    const Garde garde;
     variables.Date_du_jour = Jour_serie();
     if (!variables.Limite_corbeille_incorrecte)
-        Tenter([&] { magasin.Purger(Limites(), variables.Date_du_jour); });
+        Tenter([&] { magasin.Purger(Limites(), variables.Date_du_jour, Laisser_continuer); });
     Recalculer_total();
     Tenter(Enregistrer_total);
 }
 
 void Recalculer_total() {
     variables.Total_corbeille = static_cast<std::int32_t>(std::min(Magasin_corbeille().Total(), plus_grand));
+}
+
+void Renommer_repertoire_suivi(const std::wstring & ancien, const std::wstring & nouveau) {
+    const auto renommer = [&] { Renommer_fichier(ancien, nouveau); };
+    if (!Index_existe()) return renommer();
+    const Ouverture ouverture;
+    Magasin_corbeille().Suivre_repertoire(ancien, nouveau, renommer);
 }
 
 void Enregistrer_total() {

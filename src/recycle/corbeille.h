@@ -15,10 +15,15 @@ Magasin & Magasin_corbeille();
 void Ouvrir_corbeille();
 // Opens the store if it is not open; the error of the last place tried otherwise.
 void Exiger_corbeille();
-// Enforces the limits and saves the total; silent.
+// What is asked between two files: lets events run; false once the stop was asked for or the program ends.
+bool Laisser_continuer();
+// Enforces the limits and saves the total; silent. Events run between the files, but no command; Arret_demande ends it.
 void Purger_corbeille();
 // The sum of the sizes in the bin, in Total_corbeille; what 32 bits cannot hold gives the most they can.
 void Recalculer_total();
+// Renames a directory, see Magasin::Suivre_repertoire, also while the bin is not in use: it may still hold files. When there is an index
+// and it cannot be opened the directory keeps its name.
+void Renommer_repertoire_suivi(const std::wstring & ancien, const std::wstring & nouveau);
 // Writes Total_corbeille to the settings.
 void Enregistrer_total();
 // Stores files, see Magasin::Deposer, and says how many; adds to Total_corbeille, after an error too. Error 6 for a file with which

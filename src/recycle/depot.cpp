@@ -28,14 +28,14 @@ void Magasin::Deposer(const std::vector<Depot> & depots, std::int32_t jour,
                       const std::function<bool()> & continuer, std::size_t & deposes) {
     deposes = 0;
     if (depots.empty()) return;
-    const Exclusivite  tour(tour_de_la_corbeille);
+    const Exclusivite  tour(tour_de_la_corbeille, attente_du_tour, entretemps_);
     std::vector<Fiche> fiches;
     std::exception_ptr refus;
     Accorder();
     try {
         for (const Depot & depot : depots) {
             Fiche fiche{{}, depot.taille, depot.nom, Repertoire_de_fiche(depot.repertoire)};
-            fiche.code = codes_.Choisir(fiche.repertoire, jour, index_.Lignes());
+            fiche.code = codes_.Choisir(fiche, jour, index_.Lignes());
             Verifier(fiche);
             fiches.push_back(std::move(fiche));
         }
@@ -75,7 +75,7 @@ void Magasin::Placer(std::vector<Fiche> & fiches, std::size_t rang, bool & code)
         }
         Changer_code(fiches, rang);
     }
-    throw Erreur_execution(Numero::fichier_existe, 0, fiches[rang].repertoire);
+    throw Erreur_execution(Numero::fichier_existe, 0, fiches[rang].Chemin_avant());
 }
 
 // The record must not be there for a moment: it would name the other program's file.
@@ -83,7 +83,7 @@ void Magasin::Changer_code(std::vector<Fiche> & fiches, std::size_t rang) {
     Fiche & fiche = fiches[rang];
     index_.Confirmer(fiches, rang);
     if (!index_.Retirer(rang)) throw Erreur_execution(Numero::entree_sortie, 0, fiche.Chemin_avant());
-    fiche.code = codes_.Choisir(fiche.repertoire, fiche.Jour(), index_.Lignes());
+    fiche.code = codes_.Choisir(fiche, fiche.Jour(), index_.Lignes());
     index_.Inscrire(fiches, rang);
 }
 

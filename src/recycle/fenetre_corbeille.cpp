@@ -8,6 +8,7 @@
 #include "forms/corbeille.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/chemins.h"
+#include "platform/erreur.h"
 #include "platform/profil.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
@@ -52,6 +53,20 @@ void Lire_corbeille(Corbeille & w) {
     Montrer_fichiers(w);
 }
 
+// What may take long: meanwhile the button Fin alone answers, and stops it.
+class Travail {
+public:
+    explicit Travail(Corbeille & w) : entree_(w.Fin) { variables.Arret_demande = false; }
+    ~Travail() { variables.Arret_demande = false; }
+    Travail(const Travail &)             = delete;
+    Travail & operator=(const Travail &) = delete;
+
+private:
+    Garde                        garde_;
+    Application::Sablier         sablier_;
+    Application::Entree_reservee entree_;
+};
+
 // Those chosen have their names back. Fichier_courant names the one in hand, for the report of an error.
 void Restaurer_choisis(const Corbeille & w) {
     std::vector<std::size_t>  choix;
@@ -61,12 +76,10 @@ void Restaurer_choisis(const Corbeille & w) {
         noms.push_back(Magasin_corbeille().Fiches().at(choix.back()).nom);
     }
     auto nom                  = noms.begin();
-    variables.Arret_demande   = false;
     variables.Fichier_courant = *nom;
     Magasin_corbeille().Restaurer(choix, [&] {
         variables.Fichier_courant = *++nom;
-        Application::Laisser_passer();
-        return !variables.Arret_demande && !Application::Terminee();
+        return Laisser_continuer();
     });
 }
 
@@ -82,9 +95,7 @@ void Récupérer_Click(Corbeille & w) {
     Pieger(
         L"RECUPERER",
         [&] {
-            const Garde                        garde;
-            const Application::Sablier         sablier;
-            const Application::Entree_reservee entree(w.Fin);
+            const Travail travail(w);
             Restaurer_choisis(w);
             Recalculer_total();
             variables.Fichier_courant = Nom_du_chemin(variables.Fichier_ini);
@@ -95,7 +106,6 @@ void Récupérer_Click(Corbeille & w) {
             Montrer_restauration(w);
             Enregistrer_total();
         });
-    variables.Arret_demande = false;
     variables.Fichier_courant.clear();
 }
 
@@ -108,36 +118,54 @@ bool Confirmer_destruction() {
     return variables.Reponse == Reponse_boite::oui;
 }
 
-void Detruire_corbeille() {
-    const Application::Sablier sablier;
-    Exiger_corbeille();
-    Magasin_corbeille().Detruire();
+// False when it was stopped. The report of an error names the file that could not be destroyed.
+bool Detruire_fichiers() {
+    try {
+        Exiger_corbeille();
+        return Magasin_corbeille().Detruire(Laisser_continuer);
+    } catch (const Erreur_execution & erreur) {
+        variables.Fichier_courant = Nom_du_chemin(erreur.chemin);
+        throw;
+    }
+}
+
+// False when it was stopped: the window stays, with the rest.
+bool Detruire_corbeille(Corbeille & w) {
+    const Travail travail(w);
+    if (!Detruire_fichiers()) {
+        Montrer_fichiers(w);
+        Enregistrer_total();
+        return false;
+    }
     variables.Total_corbeille = 0;
     variables.Chemin_corbeille.clear();
     variables.Fichier_courant = Nom_du_chemin(variables.Fichier_ini);
     Ecrire_profil(variables.Fichier_ini, Section::corbeille, Cle::total, std::nullopt);
+    return true;
+}
+
+void Fermer(Corbeille & w) {
+    w.Tip.Visible(false);
+    Fermer_fille(w);
 }
 
 // The closing steps; false when the window stays.
 bool Terminer(Corbeille & w) {
-    {
-        const Application::Sablier sablier;
-        Enregistrer_limites(w);
-        if (variables.Corbeille_active) {
-            Ouvrir_corbeille();
-            Purger_corbeille();
-            return true;
-        }
+    Enregistrer_limites(w);
+    if (variables.Corbeille_active) {
+        const Travail travail(w);
+        Ouvrir_corbeille();
+        Purger_corbeille();
+        return true;
     }
     if (variables.Total_corbeille < 1) return true;
     if (!Confirmer_destruction()) return false;
-    Detruire_corbeille();
-    return true;
+    return Detruire_corbeille(w);
 }
 
 void Fin_Click(Corbeille & w) {
     if (variables.Garde) {
-        // A restoration is in progress: it ends after the file in hand.
+        // It ends after the file in hand.
         variables.Arret_demande = true;
         return;
     }
@@ -151,7 +179,7 @@ void Fin_Click(Corbeille & w) {
             if (Magasin_corbeille().Ouvert()) Enregistrer_total();
         });
     variables.Fichier_courant.clear();
-    if (fermer) Fermer_fille(w);
+    if (fermer) Fermer(w);
 }
 
 // Leaves the limits as they were when the window opened.
@@ -162,7 +190,7 @@ void Abandonner(Corbeille & w) {
     }
     Pieger(etape_fin, [&] { Rendre_limites(w); });
     variables.Fichier_courant.clear();
-    Fermer_fille(w);
+    Fermer(w);
 }
 
 // Says where the index is when the directory of the system could not take it.
@@ -174,13 +202,19 @@ std::wstring Aide_fenetre() {
     return texte + aide_index_ailleurs + magasin.Repertoire() + L".";
 }
 
+// Below the last entry there is nothing to restore, whatever is selected.
+void Double_clic(Corbeille & w) {
+    bool coupee = false;
+    if (w.Fichier_effacé.Entree_survolee(coupee) >= 0) Récupérer_Click(w);
+}
+
 void Brancher(Corbeille & w) {
     Brancher_fille(w, Aide_fenetre);
     Brancher_abandon(w, [&w] { Abandonner(w); });
     Brancher_astuce(w, w.Fichier_effacé, w.Tip);
     Brancher_champs_limites(w);
     w.Fichier_effacé.Click    = [&w] { w.Récupérer.Enabled(!w.Fichier_effacé.Selection().empty()); };
-    w.Fichier_effacé.DblClick = [&w] { Récupérer_Click(w); };
+    w.Fichier_effacé.DblClick = [&w] { Double_clic(w); };
     w.Fichier_effacé.KeyPress = [&w](wchar_t & caractere) {
         if (caractere != Touche::entree) return;
         caractere = 0;

@@ -7,6 +7,7 @@
 #include "recycle/presence.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace {
@@ -46,6 +47,14 @@ std::uint64_t Longueur(const std::vector<Ligne_index> & lignes) {
     return longueur;
 }
 
+// One look at the disk takes all that was done before on its volume along.
+bool Renommages_fixes(const std::vector<Ligne_index> & lignes) {
+    std::set<std::wstring> repertoires;
+    for (const Ligne_index & ligne : lignes)
+        if (!ligne.suivie.empty()) repertoires.insert(Sans_casse(ligne.suivie));
+    return std::all_of(repertoires.begin(), repertoires.end(), Fixer_repertoire);
+}
+
 }  // namespace
 
 const Page_de_codes & Page_du_systeme() {
@@ -65,6 +74,7 @@ void Index_corbeille::Ouvrir(const std::wstring & repertoire) {
         Ouvrir_canal();
         Relire();
         Completer_derniere();
+        Achever_renommages();
     } catch (const Erreur_execution &) {
         Fermer();
         throw;
@@ -127,6 +137,32 @@ void Index_corbeille::Completer_derniere() {
     longueur_ = Longueur(lignes_);
 }
 
+// A directory took another name, and what was running was cut before its files had one line each.
+void Index_corbeille::Achever_renommages() {
+    const bool deux = std::any_of(lignes_.begin(), lignes_.end(),
+                                  [](const Ligne_index & ligne) { return !ligne.suivie.empty(); });
+    if (!deux || Tenter([&] { Reecrire({}); })) return;
+    Ouvrir_canal();
+    Relire();
+}
+
+// What a cut leaves twice is told apart by what this index has already.
+void Index_corbeille::Absorber(const std::wstring & repertoire) {
+    if (!Est_la(Joindre(repertoire, L"KORVANE.CRB")) && !Est_la(Joindre(repertoire, L"KORVANE.NEW"))) return;
+    Index_corbeille       autre;
+    std::set<std::string> connues;
+    std::string           octets;
+    for (const Ligne_index & ligne : lignes_) connues.insert(ligne.octets);
+    autre.Ouvrir(repertoire);
+    for (const Ligne_index & ligne : autre.Lignes())
+        if (connues.count(ligne.octets) == 0) octets += ligne.octets;
+    if (!octets.empty()) {
+        canal_.Ajouter(octets);
+        Relire();
+    }
+    autre.Supprimer();
+}
+
 bool Index_corbeille::Synchroniser() {
     if (repertoire_.empty()) throw Erreur_execution(Numero::canal_incorrect, 0, {});
     if (Ouvert() && canal_.A_sa_place() && canal_.Longueur() == longueur_) return false;
@@ -185,10 +221,12 @@ void Index_corbeille::Confirmer(const std::vector<Fiche> & fiches, std::size_t f
 
 void Index_corbeille::Reecrire(const Chemins_codes & partis) {
     if (!Synchroniser()) Constater();
+    const bool  fixes = Renommages_fixes(lignes_);
     std::string octets;
     for (const Ligne_index & ligne : lignes_) {
-        const bool part = ligne.fiche && (ligne.presence == Presence::absente ||
-                                          partis.count(Sans_casse(ligne.fiche->Chemin_code())) != 0);
+        const bool absente = ligne.presence == Presence::absente && (fixes || ligne.suivie.empty());
+        const bool part =
+            ligne.fiche && (absente || partis.count(Sans_casse(ligne.fiche->Chemin_code())) != 0);
         if (!part) octets += ligne.octets;
     }
     if (octets.size() != longueur_) Remplacer(octets);

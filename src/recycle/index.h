@@ -11,6 +11,7 @@
 // The programs that change the index take turns under this name. It tells apart neither directories nor users: a wait for a bin
 // that is not ours costs a moment, no more.
 inline constexpr const wchar_t * tour_de_la_corbeille = L"KORVANE.CRB";
+inline constexpr unsigned        attente_du_tour      = 5000;  // milliseconds
 
 const Page_de_codes & Page_du_systeme();
 
@@ -41,7 +42,11 @@ public:
     // Takes back those that are not confirmed, from `premiere` on; false when they stay, without a file.
     bool Retirer(std::size_t premiere) noexcept;
 
-    // Replaces the index by one without these records and those whose files are gone.
+    // The lines of an index in that directory, if there is one, become lines of this one, and it is removed.
+    void Absorber(const std::wstring & repertoire);
+
+    // Replaces the index by one without these records and those whose files are gone. A file whose directory took another name
+    // keeps its former line until that name is on the disk.
     void Reecrire(const Chemins_codes & partis);
     void Supprimer();
 
@@ -50,6 +55,7 @@ private:
     void         Ouvrir_canal();
     void         Recuperer_reecriture();
     void         Completer_derniere();
+    void         Achever_renommages();
     void         Oter_zeros_de_fin();
     void         Remplacer(const std::string & octets);
 

@@ -11,7 +11,8 @@ enum class Presence {
     la,
     absente,        // its directory can be read and does not hold it
     inaccessible,   // the directory or the drive cannot be reached
-    autre_support,  // not on the medium that is in its removable drive now
+    autre_support,  // not on the medium that is in its drive now, or that drive may be another one
+    autre_fichier,  // its name is that of a file of another length, which is not its own
 };
 
 // One line of the index, as it stands there: bytes that are not understood are kept as they are.
@@ -19,6 +20,8 @@ struct Ligne_index {
     std::string          octets;  // with its line end
     std::optional<Fiche> fiche;   // empty for a line that is no record
     Presence             presence = Presence::inaccessible;
+    // Where its file is when its directory took another name: another line says so. Empty otherwise.
+    std::wstring suivie = {};
 
     bool Entiere() const { return octets.ends_with('\n'); }
 };

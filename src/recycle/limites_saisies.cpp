@@ -36,9 +36,8 @@ void Garder_chiffres(const Corbeille & w, Champ_texte & champ) {
 void Brancher_chiffres(Corbeille & w, Champ_texte & champ, int chiffres) {
     champ.Limite(chiffres);
     champ.Change   = [&w, &champ] { Garder_chiffres(w, champ); };
-    champ.KeyPress = [&w](wchar_t & caractere) {
-        if (caractere == Touche::entree) return w.Fin.Cliquer();
-        // Control characters are the field's own: erasing, pasting.
+    champ.KeyPress = [](wchar_t & caractere) {
+        // Control characters are the field's own, erasing and pasting, or the window's.
         if (caractere < L' ' || Est_chiffre(caractere)) return;
         Bip();
         caractere = 0;

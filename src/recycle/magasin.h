@@ -25,11 +25,14 @@ struct Depot {
 // Errors are Erreur_execution; what holds after one is said at each function. Programs that share an index take turns.
 class Magasin {
 public:
-    Magasin();
+    // `entretemps` is called again and again while another program has its turn.
+    explicit Magasin(std::function<void()> entretemps = {});
 
-    // The index is opened in the first of these directories where it can be written ("C:\WINDOWS\system32"), created hidden
-    // when there is none; the directories after the first are made when missing. What a crash left behind is mended: an
-    // unfinished rewrite, a torn last line. Not open after an error, which is that of the last directory.
+    // The index is opened in the first of these directories where it may be written ("C:\WINDOWS\system32"), created hidden
+    // when there is none; the directories after the first are made when missing. What the later ones hold from a time when it
+    // could not be written joins it. What a crash left behind is mended: an unfinished rewrite, a torn last line, a directory
+    // under two names. Not open after an error: one that says something else than that a directory cannot be written, or that
+    // of the last directory.
     void                 Ouvrir(const std::vector<std::wstring> & repertoires);
     void                 Fermer() noexcept;
     bool                 Ouvert() const { return index_.Ouvert(); }
@@ -49,36 +52,38 @@ public:
     void Deposer(const std::vector<Depot> & depots, std::int32_t jour,
                  const std::function<bool()> & continuer, std::size_t & deposes);
     // Destroys what the limits no longer allow, oldest first, and rewrites the index when it changed. What cannot be destroyed
-    // stays in it, without an error.
-    void Purger(const Limites_corbeille & limites, std::int32_t jour);
+    // stays in it, without an error. `continuer` is asked before each file but the first.
+    void Purger(const Limites_corbeille & limites, std::int32_t jour,
+                const std::function<bool()> & continuer);
     // Gives these files (indexes in Fiches) their names back; `continuer` is asked before each but the first. Those restored
     // leave the index whatever happens to a later one; the first error ends it. Former name taken: 58.
     void Restaurer(const std::vector<std::size_t> & choix, const std::function<bool()> & continuer);
     // A directory takes another name, by `renommer`: the files stored in it and below stay in the bin. Their records are on the
-    // disk under the new name before it runs. After an error nothing has changed.
+    // disk under the new name before it runs, and keep their places. After an error nothing has changed.
     void Suivre_repertoire(const std::wstring & ancien, const std::wstring & nouveau,
                            const std::function<void()> & renommer);
     // Every file of the index is destroyed, then the index, which is closed. A file that cannot be destroyed stays in it, and its
-    // error is thrown when the others are gone. The index stays, closed, when it names files of another removable medium.
-    void Detruire();
+    // error, which names it as it was before erasure, is thrown when the others are gone. The index stays, closed, when it names
+    // files of a drive that does not answer or of another removable medium.
+    // `continuer` is asked before each file but the first; false when it ended the destruction: what is left stays, open.
+    bool Detruire(const std::function<bool()> & continuer);
 
 private:
-    // Records of a directory's files before and after it takes another name.
-    struct Suivies {
-        std::vector<Fiche> avant;
-        std::vector<Fiche> apres;
-    };
-
+    void Ouvrir_dans(const std::wstring & repertoire, bool premier, std::exception_ptr & erreur);
+    bool Detruire_fiches(const std::function<bool()> & continuer, std::vector<Fiche> & detruites,
+                         bool & ailleurs, std::exception_ptr & erreur);
     void Actualiser();  // fiches_ from the lines of the index
     void Accorder();    // memory with the disk, before anything is changed
     void Ranger(std::vector<Fiche> & fiches, const std::function<bool()> & continuer, std::size_t & deposes);
     void Conclure(const std::vector<Fiche> & fiches, std::size_t deposes);
     void Placer(std::vector<Fiche> & fiches, std::size_t rang, bool & code);
     void Changer_code(std::vector<Fiche> & fiches, std::size_t rang);
-    Suivies Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const;
-    void    Reecrire(const std::vector<Fiche> & parties, std::exception_ptr premiere_erreur);
+    // The records of a directory's files as they are once it has another name.
+    std::vector<Fiche> Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const;
+    void               Reecrire(const std::vector<Fiche> & parties, std::exception_ptr premiere_erreur);
 
-    Index_corbeille    index_;
-    Codes_libres       codes_;
-    std::vector<Fiche> fiches_;
+    std::function<void()> entretemps_;
+    Index_corbeille       index_;
+    Codes_libres          codes_;
+    std::vector<Fiche>    fiches_;
 };

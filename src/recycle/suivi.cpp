@@ -29,10 +29,16 @@ void Verifier(const Fiche & fiche) {
         throw Erreur_execution(Numero::nom_incorrect, 0, fiche.repertoire);
 }
 
+// Nothing is written for a renaming that cannot be.
+void Refuser_nom_pris(const std::wstring & ancien, const std::wstring & nouveau) {
+    if ((Fichier_existe(nouveau) || Repertoire_existe(nouveau)) && !Meme_repertoire(ancien, nouveau))
+        throw Erreur_execution(Numero::fichier_existe, 0, nouveau);
+}
+
 }  // namespace
 
-Magasin::Suivies Magasin::Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const {
-    Suivies                                             suivies;
+std::vector<Fiche> Magasin::Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const {
+    std::vector<Fiche>                                  suivies;
     std::map<std::wstring, std::optional<std::wstring>> connus;
     for (const Ligne_index & ligne : index_.Lignes()) {
         const bool present = ligne.presence == Presence::la;
@@ -42,10 +48,9 @@ Magasin::Suivies Magasin::Fiches_suivies(const std::wstring & ancien, const std:
         if (connu == connus.end())
             connu = connus.emplace(repertoire, Apres_renommage(repertoire, ancien, nouveau, present)).first;
         if (!connu->second) continue;
-        suivies.avant.push_back(*ligne.fiche);
-        suivies.apres.push_back(*ligne.fiche);
-        suivies.apres.back().repertoire = *connu->second;
-        Verifier(suivies.apres.back());
+        suivies.push_back(*ligne.fiche);
+        suivies.back().repertoire = *connu->second;
+        Verifier(suivies.back());
     }
     return suivies;
 }
@@ -54,18 +59,21 @@ void Magasin::Suivre_repertoire(const std::wstring & ancien, const std::wstring 
                                 const std::function<void()> & renommer) {
     // Records do not tell one case from another.
     if (Comparer_sans_casse(ancien, nouveau) == 0) return renommer();
-    const Exclusivite tour(tour_de_la_corbeille);
+    const Exclusivite tour(tour_de_la_corbeille, attente_du_tour, entretemps_);
     Accorder();
-    const Suivies suivies = Fiches_suivies(ancien, nouveau);
-    if (suivies.apres.empty()) return renommer();
-    index_.Inscrire(suivies.apres, 0);
+    const std::vector<Fiche> suivies = Fiches_suivies(ancien, nouveau);
+    if (suivies.empty()) return renommer();
+    Refuser_nom_pris(ancien, nouveau);
+    index_.Inscrire(suivies, 0);
     try {
         renommer();
     } catch (...) {
         index_.Retirer(0);
         throw;
     }
-    index_.Confirmer(suivies.apres, suivies.apres.size());
-    // The directory has its name: a record of the former one that cannot leave names nothing that could be lost.
-    Tenter([&] { Reecrire(suivies.avant, nullptr); });
+    index_.Confirmer(suivies, suivies.size());
+    // The directory has its name. The lines of the former one go, and those of the new one take their places; until that can be
+    // written the disk has both, and tells which are right.
+    if (!Tenter([&] { index_.Reecrire({}); }) && !Tenter([&] { index_.Relire(); })) index_.Constater();
+    Actualiser();
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/erreur.h"
 #include "search/arbre.h"
 
 #include <cstddef>
@@ -16,7 +17,12 @@ const Arbre & Arborescence();
 // since by the program.
 bool Arborescence_valide(const std::wstring & unite);
 // Walks the drive again. Directories that cannot be read are skipped and counted, links are not followed. False
-// when `suivi` ended the walk: what was walked stays and counts as the tree. Errors of the root itself: 68, 70, 71,
-// 76; nothing is kept then.
+// when `suivi` ended the walk: what was walked stays and counts as the tree. Errors of the root (68, 70, 71, 76), or of
+// a drive that is lost on the way (68, 71); nothing is kept then.
 bool        Relever_arborescence(const std::wstring & unite, const Suivi_parcours & suivi);
-std::size_t Repertoires_sautes();  // of the last walk
+bool        Arborescence_entiere();  // the last walk came to its end
+std::size_t Repertoires_sautes();    // of the last walk
+// What the failure to list the tree's directory `index` means. When the drive still answers and holds the medium that was
+// walked, the directory is skipped: true when it is there and cannot be read, false when it is gone. Otherwise, and for
+// the root, the tree is emptied and the error thrown, 71 where the medium is gone.
+bool Repertoire_saute(const Erreur_execution & erreur, std::size_t index);

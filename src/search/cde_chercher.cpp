@@ -2,6 +2,7 @@
 
 #include "app/fenetre_fille.h"
 #include "app/fenetres.h"
+#include "app/garde.h"
 #include "app/globals.h"
 #include "forms/cde_chercher.h"
 #include "forms/gestion_fichiers.h"
@@ -52,7 +53,7 @@ void OK_Click(Cde_Chercher & c) {
 
 void Brancher(Cde_Chercher & c) {
     Brancher_fille(c, aide_cde_chercher);
-    c.OK.Brancher([&c] { OK_Click(c); });
+    c.OK.Brancher([&c] { Pieger(L"CHERCHER", [&c] { OK_Click(c); }); });
     c.Annule.Brancher([&c] { Fermer_fille(c); });
     c.Defaut(c.OK);
     c.Annulation(c.Annule);

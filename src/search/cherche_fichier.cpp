@@ -27,8 +27,9 @@ constexpr std::uint64_t entre_affichages   = 100;   // ms
 constexpr std::size_t   lot_maximal = 2000;  // entries added at once: the stop button waits for no more
 
 struct Fenetre_recherche : Cherche_Fichier {
-    bool                      active = false;  // walking or searching
-    std::vector<std::wstring> choisis;
+    bool                        active = false;  // walking or searching
+    std::vector<Fichier_trouve> trouves;         // of Liste_sél, entry by entry
+    std::vector<Fichier_trouve> choisis;
 };
 
 // What the window shows of a walk or a search, brought up to date about ten times a second.
@@ -52,9 +53,10 @@ public:
         return Poursuivre();
     }
 
-    void Ajouter(const std::wstring & chemin) {
+    void Ajouter(Fichier_trouve fichier) {
         ++nombre_;
-        en_attente_.push_back(chemin);
+        en_attente_.push_back(Minuscules(fichier.chemin));
+        c_.trouves.push_back(std::move(fichier));
         if (en_attente_.size() >= lot_maximal) Montrer();
     }
 
@@ -86,6 +88,7 @@ private:
 void Fermer(Fenetre_recherche & c) {
     Fermer_fille(c);
     c.Liste_sél.Clear();
+    c.trouves = {};
     c.Caption(Cherche_Fichier::titre_attente);
 }
 
@@ -106,7 +109,8 @@ void Terminer(Fenetre_recherche & c) {
 
 void OK_Click(Fenetre_recherche & c) {
     const Application::Sablier sablier;
-    for (const int index : c.Liste_sél.Selection()) c.choisis.push_back(c.Liste_sél.List(index));
+    for (const int index : c.Liste_sél.Selection())
+        c.choisis.push_back(std::move(c.trouves[static_cast<std::size_t>(index)]));
     Fermer(c);
 }
 
@@ -144,7 +148,7 @@ void Chercher(Fenetre_recherche & c) {
     Avancement            avancement(c);
     const Bilan_recherche bilan = Rechercher(
         {variables.Modele_cherche, cde.Fichiers_exclus.Text(), caches},
-        [&](const std::wstring & chemin) { avancement.Ajouter(chemin); },
+        [&](Fichier_trouve fichier) { avancement.Ajouter(std::move(fichier)); },
         [&] { return avancement.Continuer_recherche(); });
     if (!bilan.entiere || variables.Recherche_annulee) return;
     avancement.Montrer();
@@ -186,7 +190,10 @@ void Brancher(Fenetre_recherche & c) {
     Brancher_astuce_resultats(c);
     c.Annule.GotFocus    = [&c] { Annule_GotFocus(c); };
     c.Liste_sél.GotFocus = [&c] { Liste_sél_GotFocus(c); };
-    c.OK.Brancher([&c] { OK_Click(c); });
+    c.OK.Brancher([&c] {
+        Pieger(
+            L"CHERCHER", [&c] { OK_Click(c); }, [&c] { Annule_Click(c); });
+    });
     c.Annule.Brancher([&c] { Annule_Click(c); });
     c.Defaut(c.OK);
     c.Annulation(c.Annule);
@@ -219,7 +226,7 @@ Fenetre_recherche & Preparer() {
 }
 }  // namespace
 
-std::vector<std::wstring> Chercher_fichiers() {
+std::vector<Fichier_trouve> Chercher_fichiers() {
     Fenetre_recherche & c = Preparer();
     c.Show_modal(Principale());
     return std::exchange(c.choisis, {});

@@ -27,7 +27,10 @@ template <class Egal> bool conforme(std::wstring_view texte, std::wstring_view m
 
 }  // namespace
 
-std::wstring Completer_modele(std::wstring_view texte) {
+std::wstring Completer_modele(std::wstring_view saisi) {
+    const std::size_t       debut = std::min(saisi.find_first_not_of(L' '), saisi.size());
+    const std::wstring_view texte = saisi.substr(debut, saisi.find_last_not_of(L' ') + 1 - debut);
+    if (texte.empty()) return L"*.*";
     const std::size_t point = texte.find(L'.');
     if (point == texte.npos) return std::wstring(texte) + L".*";
     return (point == 0 ? L"*" : L"") + std::wstring(texte);
@@ -52,15 +55,6 @@ Exclusion::Exclusion(std::wstring_view modele, Motifs::Plier plier)
 bool Exclusion::Exclut(std::wstring_view nom) const {
     if (aucune_ || (sans_extension_ && nom.find(L'.') != nom.npos)) return false;
     return conforme(nom, modele_, [this](wchar_t lettre, wchar_t pliee) { return plier_(lettre) == pliee; });
-}
-
-std::wstring Minuscules_sures(std::wstring_view chemin, std::wstring_view minuscules, Motifs::Plier plier) {
-    std::wstring sur(chemin);
-    if (minuscules.size() != chemin.size()) return sur;
-    for (std::size_t i = 0; i < sur.size(); ++i) {
-        if (plier(minuscules[i]) == plier(sur[i])) sur[i] = minuscules[i];
-    }
-    return sur;
 }
 
 std::wstring Libelle_trouves(std::size_t nombre) {

@@ -6,8 +6,9 @@
 
 // The patterns of a search: completed as they are typed, checked, matched with names.
 
-// What a typed pattern stands for: ".bat" is "*.bat", "ms*" is "ms*.*", "." is "*.". Not for an empty text.
-std::wstring Completer_modele(std::wstring_view texte);
+// What a typed pattern stands for: ".bat" is "*.bat", "ms*" is "ms*.*", "." is "*.". No blank at either end, where a
+// name's own would not be seen. Not for an empty text.
+std::wstring Completer_modele(std::wstring_view saisi);
 // A completed pattern that names something: more than "*", points and blanks ("?" counts), or "*.", the files
 // without extension; no character that a name cannot hold.
 bool Modele_correct(std::wstring_view modele);
@@ -27,10 +28,6 @@ private:
     bool          sans_extension_ = false;
     bool          aucune_         = false;
 };
-
-// The path in lower case, `minuscules` being the text that the system makes of it; but a letter that the file
-// system would not take for the same keeps its case, so that the path still leads to its file.
-std::wstring Minuscules_sures(std::wstring_view chemin, std::wstring_view minuscules, Motifs::Plier plier);
 
 // The progress line of a search.
 std::wstring Libelle_trouves(std::size_t nombre);

@@ -29,21 +29,23 @@ private:
     std::uint32_t attributs_exclus_;
 };
 
-std::wstring En_minuscules(const std::wstring & chemin) {
-    return Minuscules_sures(chemin, Minuscules(chemin), Majuscule);
+Fichier_trouve Trouve(const std::wstring & repertoire, const Entree_vue & entree) {
+    Fichier_trouve fichier{Joindre(repertoire, entree.nom), {}};
+    if (!entree.lien) fichier.taille = entree.taille;
+    return fichier;
 }
 }  // namespace
 
-Bilan_recherche Rechercher(const Demande_recherche &                         demande,
-                           const std::function<void(const std::wstring &)> & trouver,
-                           const std::function<bool()> &                     continuer) {
+Bilan_recherche Rechercher(const Demande_recherche &                   demande,
+                           const std::function<void(Fichier_trouve)> & trouver,
+                           const std::function<bool()> &               continuer) {
     const Arbre &   arbre = Arborescence();
     const Filtre    filtre(demande);
     Bilan_recherche bilan;
     std::wstring    repertoire;
     std::size_t     vus     = 0;
     const auto      visiter = [&](const Entree_vue & entree) {
-        if (filtre.Retient(entree)) trouver(En_minuscules(Joindre(repertoire, entree.nom)));
+        if (filtre.Retient(entree)) trouver(Trouve(repertoire, entree));
         return ++vus % entre_deux_regards != 0 || continuer();
     };
     for (std::size_t i = 0; i < arbre.Nombre(); ++i) {
@@ -51,9 +53,8 @@ Bilan_recherche Rechercher(const Demande_recherche &                         dem
         repertoire = arbre.Chemin(i);
         try {
             if (!Enumerer(repertoire, visiter)) return bilan;
-        } catch (const Erreur_execution &) {
-            if (i == 0) throw;
-            ++bilan.sautes;
+        } catch (const Erreur_execution & erreur) {
+            if (Repertoire_saute(erreur, i)) ++bilan.sautes;
         }
     }
     bilan.entiere = true;

@@ -4,7 +4,6 @@
 #include "app/globals.h"
 #include "app/routines.h"
 #include "forms/gestion_fichiers.h"
-#include "platform/fichiers.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
 #include "search/arborescence.h"
@@ -76,12 +75,12 @@ std::optional<std::vector<std::wstring>> Chercher_repertoire(Gestion_Fichiers & 
     const std::wstring        cherche = Nom_saisi(nom);
     // No need to walk a disk for what no directory can be called.
     if (cherche.empty()) return trouves;
-    if (!Arborescence_valide(unite) && !Parcourir(f, unite)) return std::nullopt;
+    const bool connue = Arborescence_valide(unite) && Arborescence_entiere();
+    if (!connue && !Parcourir(f, unite)) return std::nullopt;
     const Arbre & arbre = Arborescence();
     for (auto i = Prochain_repertoire(arbre, cherche, 0, Majuscule); i;
          i      = Prochain_repertoire(arbre, cherche, *i + 1, Majuscule)) {
-        std::wstring chemin = arbre.Chemin(*i);
-        if (Repertoire_existe(chemin)) trouves.push_back(std::move(chemin));
+        trouves.push_back(arbre.Chemin(*i));
     }
     return trouves;
 }

@@ -2,12 +2,21 @@
 
 class Fenetre;
 
-// The main screen and the mouse pointer, in twips.
+// The screens and the mouse pointer, in twips.
 struct Point_twips {
     int x;
     int y;
 };
 
-int         Largeur_ecran();
-int         Hauteur_ecran();
-Point_twips Pointeur(const Fenetre & fenetre);  // of the window's client area
+struct Rectangle_twips {
+    int gauche;
+    int haut;
+    int droite;
+    int bas;
+};
+
+int Largeur_ecran();
+int Hauteur_ecran();
+// What the task bar leaves of the screen where that window is, or of the nearest one.
+Rectangle_twips Zone_de_travail(const Fenetre & fenetre);
+Point_twips     Pointeur(const Fenetre & fenetre);  // of the window's client area

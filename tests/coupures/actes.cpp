@@ -1,5 +1,6 @@
 #include "coupures/actes.h"
 
+#include "fileops/vidage.h"
 #include "platform/fichiers.h"
 #include "recycle/magasin.h"
 
@@ -34,13 +35,17 @@ void Effacer(const std::wstring & racine) {
     }
 }
 
-void Purger_par_temps(const std::wstring & racine) { Ouvert_dans(racine).Purger({0, 10}, aujourdhui); }
+void Purger_par_temps(const std::wstring & racine) {
+    Ouvert_dans(racine).Purger({0, 10}, aujourdhui, Toujours);
+}
 
-void Purger_par_taille(const std::wstring & racine) { Ouvert_dans(racine).Purger({4, 0}, aujourdhui); }
+void Purger_par_taille(const std::wstring & racine) {
+    Ouvert_dans(racine).Purger({4, 0}, aujourdhui, Toujours);
+}
 
 void Restaurer(const std::wstring & racine) { Ouvert_dans(racine).Restaurer({0, 2, 3}, Toujours); }
 
-void Detruire(const std::wstring & racine) { Ouvert_dans(racine).Detruire(); }
+void Detruire(const std::wstring & racine) { Ouvert_dans(racine).Detruire(Toujours); }
 
 void Ouvrir(const std::wstring & racine) { Ouvert_dans(racine); }
 
@@ -50,7 +55,7 @@ void Seance(const std::wstring & racine) {
     std::size_t deposes = 0;
     magasin.Deposer({Depot_de(racine, L"un", L"RAPPORT.DOC"), Depot_de(racine, L"deux", L"RAPPORT.DOC")},
                     aujourdhui, Toujours, deposes);
-    magasin.Purger({0, 2}, aujourdhui);
+    magasin.Purger({0, 2}, aujourdhui, Toujours);
     magasin.Restaurer({magasin.Fiches().size() - 1}, Toujours);
     magasin.Deposer({Depot_de(racine, L"un", L"systeme.dat"), Depot_de(racine, L"deux", L"RAPPORT.DOC")},
                     aujourdhui, Toujours, deposes);
@@ -74,17 +79,14 @@ void Renommer(const std::wstring & racine) {
 }
 
 void Renommer_repertoire(const std::wstring & racine) {
-    Renommer_fichier(racine + L"\\un", racine + L"\\trois");
+    const std::wstring ancien = racine + L"\\un", nouveau = racine + L"\\trois";
+    Ouvert_dans(racine).Suivre_repertoire(ancien, nouveau, [&] { Renommer_fichier(ancien, nouveau); });
 }
 
-// The steps of the command: the files that "*.*" names, then the directory.
+// The steps of the command: the files, then the directory.
 void Supprimer(const std::wstring & racine) {
     const std::wstring repertoire = racine + L"\\deux";
-    for (const Entree_repertoire & entree : Lister(repertoire, false)) {
-        if ((entree.attributs & (Attribut::cache | Attribut::systeme)) == 0) {
-            Supprimer_fichier(repertoire + L"\\" + entree.nom);
-        }
-    }
+    Vider_repertoire(repertoire, [](const std::wstring &) { return true; });
     Retirer_repertoire(repertoire);
 }
 

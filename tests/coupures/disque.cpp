@@ -39,9 +39,30 @@ void Ecrire(const std::wstring & chemin, const std::string & octets) {
     SetFileAttributesW(chemin.c_str(), attributs);
 }
 
+// Hidden and read-only together are refused by some file systems unless set one after the other.
+void Attribuer(const std::wstring & chemin, DWORD attributs) {
+    SetFileAttributesW(chemin.c_str(), attributs & ~DWORD{FILE_ATTRIBUTE_READONLY});
+    if ((attributs & FILE_ATTRIBUTE_READONLY) != 0) SetFileAttributesW(chemin.c_str(), attributs);
+}
+
+// A file that is gone is made again, one that is there gets its attributes back.
+void Remettre(const std::wstring & chemin, const std::string & octets,
+              const WIN32_FILE_ATTRIBUTE_DATA & avant) {
+    if (GetFileAttributesW(chemin.c_str()) == INVALID_FILE_ATTRIBUTES) {
+        const Poignee_fichier fichier(CreateFileW(chemin.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                                  FILE_ATTRIBUTE_NORMAL, nullptr));
+        DWORD                 ecrits = 0;
+        WriteFile(fichier.Valeur(), octets.data(), static_cast<DWORD>(octets.size()), &ecrits, nullptr);
+        SetFileTime(fichier.Valeur(), nullptr, nullptr, &avant.ftLastWriteTime);
+    }
+    Attribuer(chemin, avant.dwFileAttributes);
+}
+
 }  // namespace
 
 void Disque::Oublier() {
+    avant_ = {};
+    noms_.clear();
     ouverts_.clear();
     recherches_.clear();
     durables_.clear();
@@ -61,10 +82,36 @@ void Disque::Va_ecrire(HANDLE poignee) {
 
 void Disque::Fixe(HANDLE poignee) {
     const auto ouvert = ouverts_.find(poignee);
-    if (ouvert != ouverts_.end()) durables_.erase(ouvert->second.chemin);
+    if (ouvert == ouverts_.end()) return;
+    durables_.erase(ouvert->second.chemin);
+    noms_.clear();
 }
 
-void Disque::Renomme(const std::wstring & de, const std::wstring & a) {
+void Disque::Va_changer(const std::wstring & chemin) {
+    WIN32_FILE_ATTRIBUTE_DATA etat;
+    avant_ = {};
+    if (!GetFileAttributesExW(chemin.c_str(), GetFileExInfoStandard, &etat)) return;
+    if ((etat.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        avant_ = [chemin] { CreateDirectoryW(chemin.c_str(), nullptr); };
+    } else {
+        avant_ = [chemin, etat, octets = Lire(chemin)] { Remettre(chemin, octets, etat); };
+    }
+}
+
+void Disque::Change() {
+    if (avant_) noms_.push_back(std::move(avant_));
+    avant_ = {};
+}
+
+void Disque::Fait_repertoire(const std::wstring & chemin) {
+    noms_.emplace_back([chemin] { RemoveDirectoryW(chemin.c_str()); });
+}
+
+void Disque::Renomme(const std::wstring & de, const std::wstring & a, bool directe) {
+    if (directe)
+        noms_.clear();
+    else
+        noms_.emplace_back([de, a] { MoveFileExW(a.c_str(), de.c_str(), 0); });
     durables_.erase(Cle_de(a));
     auto note = durables_.extract(Cle_de(de));
     if (!note.empty()) {
@@ -76,7 +123,10 @@ void Disque::Renomme(const std::wstring & de, const std::wstring & a) {
     }
 }
 
-void Disque::Supprime(const std::wstring & chemin) { durables_.erase(Cle_de(chemin)); }
+void Disque::Supprime(const std::wstring & chemin) {
+    durables_.erase(Cle_de(chemin));
+    Change();
+}
 
 void Disque::Ferme(HANDLE poignee) { ouverts_.erase(poignee); }
 
@@ -96,4 +146,8 @@ void Disque::Couper_courant(bool zeros) {
         Ecrire(chemin, octets);
     }
     durables_.clear();
+    while (!noms_.empty()) {
+        noms_.back()();
+        noms_.pop_back();
+    }
 }

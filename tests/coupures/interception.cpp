@@ -121,8 +121,17 @@ void Constater(Appele<creer_fichier>, HANDLE poignee, LPCWSTR chemin, DWORD, DWO
 void Constater(Appele<fixer>, BOOL fait, HANDLE poignee) {
     if (fait) jeu.disque.Fixe(poignee);
 }
-void Constater(Appele<renommer>, BOOL fait, LPCWSTR de, LPCWSTR a, DWORD) {
-    if (fait) jeu.disque.Renomme(de, a);
+void Constater(Appele<renommer>, BOOL fait, LPCWSTR de, LPCWSTR a, DWORD options) {
+    if (fait) jeu.disque.Renomme(de, a, (options & MOVEFILE_WRITE_THROUGH) != 0);
+}
+void Constater(Appele<attribuer>, BOOL fait, LPCWSTR, DWORD) {
+    if (fait) jeu.disque.Change();
+}
+void Constater(Appele<creer_repertoire>, BOOL fait, LPCWSTR chemin, LPSECURITY_ATTRIBUTES) {
+    if (fait) jeu.disque.Fait_repertoire(chemin);
+}
+void Constater(Appele<retirer_repertoire>, BOOL fait, LPCWSTR) {
+    if (fait) jeu.disque.Change();
 }
 void Constater(Appele<supprimer>, BOOL fait, LPCWSTR chemin) {
     if (fait) jeu.disque.Supprime(chemin);
@@ -135,6 +144,9 @@ void Constater(Appele<chercher>, HANDLE poignee, LPCWSTR, FINDEX_INFO_LEVELS, LP
 void Constater(Appele<finir_recherche>, BOOL, HANDLE poignee) { jeu.disque.Finit_recherche(poignee); }
 
 template <Rang rang, class... A> void Annoncer(Appele<rang>, A...) {}
+void Annoncer(Appele<supprimer>, LPCWSTR chemin) { jeu.disque.Va_changer(chemin); }
+void Annoncer(Appele<attribuer>, LPCWSTR chemin, DWORD) { jeu.disque.Va_changer(chemin); }
+void Annoncer(Appele<retirer_repertoire>, LPCWSTR chemin) { jeu.disque.Va_changer(chemin); }
 void Annoncer(Appele<ecrire>, HANDLE poignee, LPCVOID, DWORD, LPDWORD, LPOVERLAPPED) {
     jeu.disque.Va_ecrire(poignee);
 }

@@ -17,6 +17,19 @@ protected:
         taille.empty() ? fille.Vider(L"Taille") : fille.Remplacer(L"Taille", taille);
         temps.empty() ? fille.Vider(L"Temps") : fille.Remplacer(L"Temps", temps);
     }
+    // What is allowed for the field that holds something else.
+    void Attendre_refus(const std::wstring & champ) {
+        Attendre_avertissement(champ == L"Taille"
+                                   ? L"La taille de la corbeille doit être comprise entre 1 et 9999,\r"
+                                     L"exprimée en Kilo-octets de 1024 caractères."
+                                   : L"Le temps de conservation doit être compris entre 1 et 999,\r"
+                                     L"en nombre de jours calendaires.");
+    }
+    // No other box comes, and the window stays.
+    void Verifier_seule_boite(const Pilote::Fille & fille) {
+        EXPECT_FALSE(Attendre([this] { return !Boite_absente(); }, 400));
+        EXPECT_TRUE(fille.Ouverte());
+    }
     void Attendre_perte(int reponse) {
         Attendre_boite(
             gestionnaire,
@@ -142,12 +155,8 @@ TEST_F(Corbeille_limites, zero_est_refuse_la_fenetre_reste_et_rien_n_est_ecrit_n
     for (const auto & [taille, temps] : refus) {
         Fixer(fille, taille, temps);
         fille.Cliquer(L"Fin");
-        const HWND boite = Attendre_boite_visible(programme->Numero(), 5000);
-        ASSERT_NE(boite, nullptr) << Utf8(taille) << " / " << Utf8(temps);
-        EXPECT_EQ(Lire_boite(boite).titre, gestionnaire);
-        EXPECT_EQ(Lire_boite(boite).style, avertissement);
-        EXPECT_NE(Lire_boite(boite).texte.find(*taille ? L"9999" : L"999"), std::wstring::npos);
-        EXPECT_TRUE(Repondre_boite(boite, IDOK));
+        SCOPED_TRACE(Utf8(std::wstring(taille) + L" / " + temps));
+        Attendre_refus(*taille ? L"Taille" : L"Temps");
         EXPECT_TRUE(fille.Ouverte());
         ATTENDRE(fille.Nom_du_focus() == (*taille ? L"Taille" : L"Temps"));
         EXPECT_EQ(Cle(L"Taille"), L"9999");
@@ -250,4 +259,106 @@ TEST_F(Corbeille_limites, une_limite_incorrecte_des_reglages_est_montree_et_ne_p
     Fixer(fille, L"1", L"");
     Terminer(fille);
     EXPECT_EQ(Lignes_index(), std::vector<std::string>{Lignes()[2]});
+}
+
+TEST_F(Corbeille_limites, un_texte_des_reglages_qui_n_est_pas_un_nombre_est_montre_et_refuse) {
+    for (const auto & [cle, texte] : {std::pair{L"Taille", L"abc"}, {L"Taille", L"-5"}, {L"Temps", L"abc"}}) {
+        SCOPED_TRACE(Utf8(std::wstring(cle) + L"=" + texte));
+        Fermer();
+        Ne_pas_regler(L"Corbeille", L"Taille");
+        Regler(L"Corbeille", cle, texte);
+        if (Lignes().empty()) Mettre_trois();
+        const auto fille = Ouvrir_corbeille();
+        EXPECT_EQ(fille.Lire(cle), texte);
+        EXPECT_EQ(fille.Entrees(L"Fichier_effacé").size(), 3u);
+        fille.Cliquer(L"Fin");
+        Attendre_refus(cle);
+        ATTENDRE(fille.Nom_du_focus() == cle);
+        EXPECT_EQ(Cle(cle), texte);
+        EXPECT_EQ(Lignes_index(), Lignes());
+        Frapper(VK_ESCAPE);
+        fille.Attendre_fermee();
+    }
+    EXPECT_EQ(Restants().size(), 3u);
+}
+
+TEST_F(Corbeille_limites, entree_dans_un_champ_ne_ferme_et_ne_demande_qu_une_fois) {
+    Mettre_trois();
+    const auto fille = Ouvrir_corbeille();
+    for (const wchar_t * champ : {L"Taille", L"Temps"}) {
+        Fixer(fille, L"", L"");
+        fille.Remplacer(champ, L"0");
+        Frapper(VK_RETURN);
+        Attendre_refus(champ);
+        Verifier_seule_boite(fille);
+        fille.Vider(champ);
+        Frapper(VK_RETURN);
+        Attendre_perte(IDNO);
+        Verifier_seule_boite(fille);
+    }
+    EXPECT_EQ(Lignes_index(), Lignes());
+    fille.Remplacer(L"Temps", L"999");
+    Frapper(VK_RETURN);
+    fille.Attendre_fermee();
+    EXPECT_EQ(Cle(L"Temps"), L"999");
+}
+
+// The question is about what would be lost: files without a byte stay where they are, and can be restored later.
+TEST_F(Corbeille_limites, une_corbeille_de_fichiers_vides_se_ferme_sans_question_et_les_garde) {
+    Mettre(Source(L"un.txt"), 0, 1, aujourd_hui, 1);
+    Mettre(Source(L"deux.txt"), 0, 1, aujourd_hui, 2);
+    const auto fille = Ouvrir_corbeille();
+    Fixer(fille, L"", L"");
+    Terminer(fille);
+    EXPECT_EQ(Cle(L"Taille"), L"absente");
+    EXPECT_EQ(Lignes_index(), Lignes());
+    EXPECT_EQ(Restants().size(), 2u);
+    auto encore = Rouvrir_corbeille();
+    EXPECT_EQ(encore.Entrees(L"Fichier_effacé"), Textes{});
+    Fixer(encore, L"100", L"");
+    Terminer(encore);
+    encore = Rouvrir_corbeille();
+    EXPECT_EQ(encore.Entrees(L"Fichier_effacé").size(), 2u);
+}
+
+TEST_F(Corbeille_limites, un_fichier_tenu_par_un_autre_programme_est_nomme_et_reste_avec_la_fenetre) {
+    Mettre_trois();
+    const auto         fille = Ouvrir_corbeille();
+    const std::wstring code  = Source(L"crb" + std::to_wstring(aujourd_hui - 5) + L".002");
+    const HANDLE       prise =
+        CreateFileW(code.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(prise, INVALID_HANDLE_VALUE);
+    Fixer(fille, L"", L"");
+    fille.Cliquer(L"Fin");
+    Attendre_perte(IDYES);
+    Attendre_avertissement(L"Disquette protégée en écriture\rou fichier verrouillé.");
+    EXPECT_TRUE(fille.Ouverte());
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), Textes{Source(L"deux.txt")});
+    EXPECT_TRUE(En_corbeille(source, aujourd_hui - 5, 2));
+    EXPECT_EQ(Lignes_index(), std::vector<std::string>{Lignes()[1]});
+    EXPECT_EQ(Cle(L"Total"), L"600");
+    CloseHandle(prise);
+    fille.Cliquer(L"Fin");
+    Attendre_perte(IDYES);
+    fille.Attendre_fermee();
+    EXPECT_EQ(Noms(source), Textes{});
+    EXPECT_FALSE(Existe(index));
+}
+
+// The disk that a record names may be plugged in again: the bin can be given up without it, and its file is not forgotten.
+TEST_F(Corbeille_limites, une_unite_absente_n_empeche_pas_de_renoncer_a_la_corbeille) {
+    Mettre_trois();
+    const std::string loin = "crb" + std::to_string(aujourd_hui) + ".004 00000010 loin.txt Q:\\LOIN\\";
+    Ajouter_ligne(loin);
+    const auto fille = Ouvrir_corbeille();
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé").size(), 4u);
+    Fixer(fille, L"", L"");
+    fille.Cliquer(L"Fin");
+    Attendre_perte(IDYES);
+    fille.Attendre_fermee();
+    EXPECT_TRUE(Boite_absente());
+    EXPECT_EQ(Noms(source), Textes{});
+    EXPECT_EQ(Lignes_index(), std::vector<std::string>{loin});
+    EXPECT_EQ(Cle(L"Total"), L"absente");
+    Verifier_principale_utilisable();
 }

@@ -158,3 +158,74 @@ TEST_F(Corbeille, cinq_mille_fichiers_sont_tous_montres_et_une_moitie_se_recuper
     }
     EXPECT_FALSE(Existe(nom(2499)));
 }
+
+// The list is narrower than the path: the whole of it shows under the pointer, and is gone when the window comes back.
+TEST_F(Corbeille, le_chemin_entier_d_une_entree_trop_longue_se_montre_sous_le_pointeur) {
+    const std::wstring longue = Source(std::wstring(120, L'w') + L".txt");
+    Mettre(longue, 10, 1, 45000, 1);
+    Mettre(Source(L"a.txt"), 10, 1, 45000, 2);
+    const auto fille = Ouvrir_corbeille();
+    const HWND liste = fille.Controle(L"Fichier_effacé");
+    Pointer(Point_entree(liste, 1));
+    fille.Reposer();
+    EXPECT_FALSE(fille.Se_voit(L"Tip"));
+    Pointer(Point_entree(liste, 0));
+    ATTENDRE(fille.Se_voit(L"Tip"));
+    EXPECT_EQ(fille.Lire(L"Tip"), longue);
+    const RECT tip = Place_client(fille.Controle(L"Tip"));
+    RECT       client{};
+    GetClientRect(fille.Fenetre(), &client);
+    EXPECT_GE(tip.left, 0);
+    EXPECT_LE(tip.right, client.right);
+    Frapper(VK_ESCAPE);
+    fille.Attendre_fermee();
+    Ecarter_pointeur();
+    const auto encore = Rouvrir_corbeille();
+    EXPECT_FALSE(encore.Se_voit(L"Tip"));
+    Terminer(encore);
+}
+
+TEST_F(Corbeille, avec_le_fichier_d_aide_f1_le_demande_et_la_fenetre_sert_encore) {
+    Regler(L"Options", L"Aide en ligne", L"Oui");
+    Mettre(Source(L"a.txt"), 10, 1, 45000, 1);
+    const auto fille   = Ouvrir_corbeille();
+    const LONG normale = Hauteur_principale();
+    Frapper(VK_F1);
+    Attendre_boite(gestionnaire, L"Le fichier d'aide KORVANE.HLP est introuvable.",
+                   MB_OK | MB_ICONINFORMATION, IDOK);
+    EXPECT_EQ(Hauteur_principale(), normale);
+    EXPECT_TRUE(fille.Ouverte());
+    EXPECT_TRUE(Active(fille.Fenetre()));
+    EXPECT_FALSE(Active(Principale()));
+    fille.Double_cliquer(L"Fichier_effacé", 0);
+    Attendre_restants(fille, 0);
+    Terminer(fille);
+}
+
+// At the lower right of the screen there is no room 1500 twips further.
+TEST_F(Corbeille, pres_du_bord_de_l_ecran_la_fenetre_est_entiere_dans_la_zone_de_travail) {
+    Ecrire_index();
+    Lancer_dans_les_dossiers();
+    MONITORINFO ecran{};
+    ecran.cbSize = sizeof ecran;
+    ASSERT_TRUE(GetMonitorInfoW(MonitorFromWindow(Principale(), MONITOR_DEFAULTTONEAREST), &ecran));
+    const RECT zone = ecran.rcWork;
+    for (const bool bas : {true, false}) {
+        SCOPED_TRACE(bas);
+        const RECT mere = Place_ecran(Principale());
+        const int  x    = bas ? zone.right - 60 : zone.left - (mere.right - mere.left) + 60;
+        const int  y    = bas ? zone.bottom - 60 : zone.top - 20;
+        SetWindowPos(Principale(), nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+        Reposer(Principale());
+        Alt(L'b');
+        const auto fille = Fenetre_corbeille();
+        fille.Attendre_ouverte();
+        const RECT place = Place_ecran(fille.Fenetre());
+        EXPECT_GE(place.left, zone.left);
+        EXPECT_GE(place.top, zone.top);
+        EXPECT_LE(place.right, zone.right);
+        EXPECT_LE(place.bottom, zone.bottom);
+        Frapper(VK_ESCAPE);
+        fille.Attendre_fermee();
+    }
+}

@@ -236,6 +236,56 @@ TEST_F(Corbeille_recuperation, un_index_que_rien_ne_peut_lire_est_signale_et_la_
     Verifier_principale_utilisable();
 }
 
+TEST_F(Corbeille_recuperation, un_fichier_retire_par_un_autre_programme_est_signale_et_quitte_la_liste) {
+    Mettre_trois();
+    const auto fille = Ouvrir_corbeille();
+    ASSERT_TRUE(Effacer(Source(L"crb45000.002")));
+    fille.Choisir(L"Fichier_effacé", {0, 1, 2});
+    fille.Cliquer(L"Récupérer");
+    Attendre_avertissement(
+        L"Un nom de fichier comporte un caractère invalide ou bien le fichier DEUX.TXT est "
+        L"introuvable ou les attributs 'Système/Caché' sont présents.");
+    Attendre_restants(fille, 1);
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), Textes{Source(L"trois.txt")});
+    Verifier_recupere(Source(L"un.txt"), 1000, 1);
+    EXPECT_EQ(Cle(L"Total"), L"30");
+    fille.Choisir(L"Fichier_effacé", {0});
+    Recuperer(fille, 0);
+    Verifier_recupere(Source(L"trois.txt"), 30, 3);
+    EXPECT_TRUE(Lignes_index().empty());
+    Terminer(fille);
+}
+
+// The first of those chosen is the one that is gone: no file comes back, and it leaves the list all the same.
+TEST_F(Corbeille_recuperation, le_seul_choisi_retire_par_un_autre_programme_quitte_la_liste_et_le_total) {
+    Mettre_trois();
+    const auto fille = Ouvrir_corbeille();
+    ASSERT_TRUE(Effacer(Source(L"crb45000.002")));
+    fille.Double_cliquer(L"Fichier_effacé", 1);
+    Attendre_avertissement(
+        L"Un nom de fichier comporte un caractère invalide ou bien le fichier DEUX.TXT est "
+        L"introuvable ou les attributs 'Système/Caché' sont présents.");
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé"), (Textes{Source(L"un.txt"), Source(L"trois.txt")}));
+    EXPECT_EQ(Cle(L"Total"), L"1030");
+    Terminer(fille);
+}
+
+TEST_F(Corbeille_recuperation, un_double_clic_sous_la_derniere_entree_ne_recupere_rien) {
+    Mettre_trois();
+    const auto fille = Ouvrir_corbeille();
+    fille.Choisir(L"Fichier_effacé", {0});
+    const RECT liste = Place_ecran(fille.Controle(L"Fichier_effacé"));
+    Pilote::Double_cliquer(POINT{liste.left + 30, liste.bottom - 20});
+    fille.Reposer();
+    EXPECT_TRUE(Boite_absente());
+    EXPECT_EQ(fille.Entrees(L"Fichier_effacé").size(), 3u);
+    Verifier_trois_en_corbeille();
+    fille.Double_cliquer(L"Fichier_effacé", 2);
+    Attendre_restants(fille, 2);
+    Verifier_recupere(Source(L"trois.txt"), 30, 3);
+    Terminer(fille);
+}
+
 class Corbeille_recuperation_D : public Corbeille_recuperation {
 protected:
     Corbeille_recuperation_D() { Unite::Vider(L'D'); }

@@ -88,6 +88,19 @@ TEST_F(Effacement, un_fichier_pris_par_un_autre_programme_reste_sans_laisser_de_
     }
 }
 
+// A file that grew since it was listed is recorded as long as it is: otherwise its line would name another file.
+TEST_F(Effacement, un_fichier_qui_a_grandi_depuis_la_liste_est_efface_globalement_a_sa_taille) {
+    Activer();
+    Creer_cinq();
+    Lancer_dans_les_dossiers();
+    Creer_source(L"b.txt", 70000, 5);
+    Retenir();
+    Choisir({L"a.txt", L"b.txt", L"c.txt"});
+    Effacer_globalement();
+    Verifier_restants({L"d.txt", L"e.txt"});
+    Verifier_corbeille({L"a.txt", L"b.txt", L"c.txt"});
+}
+
 TEST_F(Effacement, sans_index_dans_le_systeme_il_est_dans_les_donnees_de_l_utilisateur) {
     Activer();
     Creer_cinq();

@@ -80,7 +80,7 @@ TEST_F(Effacement_resultats_D, la_touche_suppr_demande_et_chaque_question_nomme_
     }
     Frapper(VK_DELETE);
     Attendre_mode(1);
-    Attendre_effacement(L"a été.txt", L"d:\\un", oui_non_annuler, IDNO);
+    Attendre_effacement(L"A été.txt", L"d:\\un", oui_non_annuler, IDNO);
     Attendre_effacement(L"b.txt", L"d:\\un", oui_non_annuler, IDYES);
     Attendre_effacement(L"b.txt", L"d:\\un\\dessous", oui_non_annuler, IDCANCEL);
     Attendre_fin_commande();

@@ -1,4 +1,5 @@
 #include "fenetres/infos.h"
+#include "fenetres/systeme_hote.h"
 
 #include <functional>
 
@@ -356,4 +357,60 @@ TEST_F(Infos, l_aide_a_le_texte_de_chaque_element) {
     Frapper(VK_ESCAPE);
     fille.Attendre_fermee();
     Attendre_rappel_aide();
+}
+
+// The next file is shown without the focus moving: its boxes can be changed by the keyboard, file after file.
+TEST_F(Infos, une_lettre_d_acces_passe_au_suivant_et_laisse_le_focus_sur_sa_case) {
+    Creer_source(L"a.txt", 10);
+    Creer_source(L"b.txt", 10);
+    Lancer_dans_les_dossiers();
+    Choisir_tout();
+    const auto fille = Ouvrir_infos();
+    while (fille.Nom_du_focus() != L"Lecture" && !HasFailure()) {
+        const std::wstring avant = fille.Nom_du_focus();
+        Frapper(VK_TAB);
+        ATTENDRE(fille.Nom_du_focus() != avant);
+    }
+    for (const wchar_t * nom : {L"B.TXT", L"A.TXT"}) {
+        Alt(L's');
+        Attendre_fichier(fille, nom);
+        fille.Reposer();
+        EXPECT_EQ(fille.Nom_du_focus(), L"Lecture");
+    }
+    Frapper(VK_SPACE);
+    ATTENDRE(fille.Est_coche(L"Lecture"));
+    Alt(L's');
+    Attendre_question(IDNO);
+    Attendre_fichier(fille, L"B.TXT");
+    ATTENDRE(fille.Nom_du_focus() == L"Lecture");
+    Fermer_infos(fille);
+}
+
+TEST_F(Infos, deux_clics_rapides_passent_deux_fichiers) {
+    for (const wchar_t * nom : {L"a.txt", L"b.txt", L"c.txt", L"d.txt"}) Creer_source(nom, 10);
+    Lancer_dans_les_dossiers();
+    Choisir_tout();
+    const auto fille = Ouvrir_infos();
+    Pilote::Double_cliquer(Centre(fille.Controle(L"Suivant")));
+    Attendre_fichier(fille, L"C.TXT");
+    Pilote::Double_cliquer(Centre(fille.Controle(L"Précédent")));
+    Attendre_fichier(fille, L"A.TXT");
+    Fermer_infos(fille);
+}
+
+// The count takes more room than the columns it has for small numbers.
+TEST_F(Infos, dix_mille_fichiers_choisis_se_parcourent) {
+    ASSERT_TRUE(Sur_hote(source, L"seq -f f%05g 1 10000 | xargs touch"));
+    Lancer_dans_les_dossiers();
+    Choisir_tout();
+    EXPECT_NE(Lire(L"Ligne_message").find(L"10000 fichiers"), std::wstring::npos)
+        << Utf8(Lire(L"Ligne_message"));
+    const auto fille = Ouvrir_infos();
+    Attendre_fichier(fille, L"F00001");
+    EXPECT_TRUE(fille.Est_actif(L"Suivant"));
+    fille.Cliquer(L"Précédent");
+    Attendre_fichier(fille, L"F10000");
+    fille.Cliquer(L"Suivant");
+    Attendre_fichier(fille, L"F00001");
+    Fermer_infos(fille);
 }

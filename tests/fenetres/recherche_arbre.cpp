@@ -119,6 +119,7 @@ TEST_F(Recherche_arbre_DE, changer_d_unite_entre_deux_recherches_reprend_l_arbor
 TEST_F(Recherche_arbre_D, annuler_pendant_le_parcours_ferme_et_la_suite_se_contente_de_ce_qui_fut_parcouru) {
     Creer_foret(L'D');
     Creer_d(L"racine.txt");
+    Creer_d(L"branche69\\rameau059\\fin.txt");
     Lancer_sur_d();
     Choisir({L"racine.txt"});
     for (const bool clavier : {true, false}) {
@@ -132,6 +133,7 @@ TEST_F(Recherche_arbre_D, annuler_pendant_le_parcours_ferme_et_la_suite_se_conte
         EXPECT_TRUE(Attendre([&] { return !resultats.Ouverte(); }, 2000));
         Verifier_sans_resultats();
     }
+    // The far end of the disk was not reached: no later walk has taken the place of the one that was stopped.
     std::set<std::wstring> titres;
     Lancer_recherche(L".txt");
     EXPECT_EQ(Repertoires_montres(Suivre_recherche(titres)), 0u);
@@ -140,20 +142,105 @@ TEST_F(Recherche_arbre_D, annuler_pendant_le_parcours_ferme_et_la_suite_se_conte
     Verifier_principale_utilisable();
 }
 
-TEST_F(Recherche_arbre_D, pendant_la_recherche_ok_est_cache_et_annule_a_le_focus) {
+// A search is content with a part of the disk; a directory looked up by its name must be found wherever it is.
+TEST_F(Recherche_arbre_D, un_nom_de_repertoire_est_cherche_sur_tout_le_disque_apres_un_parcours_annule) {
     Creer_foret(L'D');
+    Creer_dossier(L"D:\\branche69\\rameau059\\loin");
+    Creer_d(L"racine.txt");
     Lancer_sur_d();
     Lancer_recherche(L".txt");
     const auto resultats = Resultats();
     EXIGER(resultats.Ouverte());
-    if (resultats.Titre() == attente) {
-        EXPECT_FALSE(Visible(resultats.Controle(L"OK")));
-        EXPECT_EQ(resultats.Nom_du_focus(), L"Annule");
-        Pilote::Cliquer(resultats.Controle(L"Liste_sél"));
-        EXPECT_TRUE(Attendre([&] { return resultats.Nom_du_focus() == L"Annule" || !Boite_absente(); }));
+    Frapper(VK_ESCAPE);
+    resultats.Attendre_fermee();
+    std::set<std::wstring> titres;
+    Lancer_recherche(L".txt");
+    ASSERT_EQ(Repertoires_montres(Suivre_recherche(titres)), 0u);
+    Annuler(Resultats());
+    Remplacer_texte(L"Chemin_srce", L"loin");
+    Frapper(VK_RETURN);
+    Attendre_boite(gestionnaire, L"D:\\BRANCHE69\\RAMEAU059\\LOIN\r\rEst-ce le chemin que vous désirez ?",
+                   MB_YESNOCANCEL | MB_ICONQUESTION, IDCANCEL);
+}
+
+// Each of them on a disk to walk anew: another drive is searched in between.
+TEST_F(Recherche_arbre_DE, la_croix_et_alt_f4_annulent_le_parcours) {
+    const std::function<void(const Pilote::Fille &)> gestes[] = {
+        [](const Pilote::Fille & resultats) {
+            PostMessageW(resultats.Fenetre(), WM_SYSCOMMAND, SC_CLOSE, 0);
+        },
+        [](const Pilote::Fille &) { Frapper_avec(VK_MENU, VK_F4); },
+    };
+    Creer_foret(L'D');
+    Creer_d(L"branche69\\rameau059\\fin.txt");
+    Lancer_sur_d();
+    for (const auto & geste : gestes) {
+        Lancer_recherche(L"fin");
+        const auto resultats = Resultats();
+        EXIGER(resultats.Ouverte());
+        geste(resultats);
+        EXPECT_TRUE(Attendre([&] { return !resultats.Ouverte(); }, 2000));
+        Verifier_sans_resultats();
+        // It was stopped before its end, which it would have shown.
+        Lancer_recherche(L"fin");
+        Attendre_rien_trouve(L"fin.*");
+        Choisir_unite(L"Unité_srce", L'e');
+        Lancer_recherche(L".xyz");
+        Attendre_rien_trouve(L"*.xyz", L"E:");
+        Choisir_unite(L"Unité_srce", L'd');
     }
-    Attendre_rien_trouve(L"*.txt");
-    Verifier_sans_resultats();
+    Verifier_principale_utilisable();
+}
+
+// The list fills while the search goes on, and ends as long as the progress line says.
+TEST_F(Recherche_arbre_D, la_liste_grandit_pendant_la_recherche) {
+    constexpr LRESULT nombre = 10000;
+    ASSERT_TRUE(Sur_hote(L"D:\\",
+                         L"for i in $(seq 100); do mkdir r$i && (cd r$i && touch $(seq -f 'f%g.txt' 100)); "
+                         L"done"));
+    Lancer_sur_d();
+    Lancer_recherche(L".txt");
+    const auto        resultats = Resultats();
+    std::set<LRESULT> longueurs;
+    const auto        finie = [&] {
+        const HWND fenetre = resultats.Fenetre();
+        if (!fenetre) return false;
+        longueurs.insert(SendMessageW(Controle_nomme(fenetre, L"Liste_sél"), LB_GETCOUNT, 0, 0));
+        return Texte(fenetre) == choix;
+    };
+    EXPECT_TRUE(Attendre(finie, 30000));
+    longueurs.erase(0);
+    ASSERT_GE(longueurs.size(), 2u);
+    EXPECT_LT(*longueurs.begin(), nombre);
+    EXPECT_EQ(SendMessageW(resultats.Controle(L"Liste_sél"), LB_GETCOUNT, 0, 0), nombre);
+    EXPECT_EQ(resultats.Lire(L"Mess_infos"), L"10000 fichiers trouvés");
+    Annuler(resultats);
+}
+
+TEST_F(Recherche_arbre_D, pendant_la_recherche_ok_est_cache_et_annule_a_le_focus) {
+    Creer_foret(L'D');
+    Lancer_sur_d();
+    bool vue = false;
+    for (int essai = 0; essai < 10 && !vue; ++essai) {
+        Lancer_recherche(L".txt");
+        const auto resultats = Resultats();
+        EXIGER(resultats.Ouverte());
+        const bool ok_visible = Visible(resultats.Controle(L"OK"));
+        const auto focus      = resultats.Nom_du_focus();
+        Pilote::Cliquer(resultats.Controle(L"Liste_sél"));
+        const bool revenu =
+            Attendre([&] { return resultats.Nom_du_focus() == L"Annule" || !Boite_absente(); });
+        // Looked at last: a search that had ended by then proves nothing.
+        vue = Boite_absente() && resultats.Titre() == attente;
+        if (vue) {
+            EXPECT_FALSE(ok_visible);
+            EXPECT_EQ(focus, L"Annule");
+            EXPECT_TRUE(revenu);
+        }
+        Attendre_rien_trouve(L"*.txt");
+        Verifier_sans_resultats();
+    }
+    EXPECT_TRUE(vue);
 }
 
 // Loops of links, a directory that cannot be read, eighty levels, a path beyond 260 characters, names outside the code page.
@@ -233,8 +320,40 @@ TEST_F(Recherche_arrets_AD, une_disquette_retiree_est_signalee_et_une_autre_est_
     Pilote::Cliquer(Point_entree(Controle(L"Répertoire_srce"), 0));
     Attendre_fin_commande();
     Annuler(Chercher(L".txt", {L"a:\\sous 2\\a.txt"}));
+    // Nothing is left of what was known of the first one: it is walked again, though its first level is the same.
+    Unite::Retirer_disquette();
+    Lancer_recherche(L".txt");
+    Attendre_avertissement(L"Support absent ou erreur d'accès sur A:");
+    Resultats().Attendre_fermee();
+    Attendre_fin_commande();
+    Unite::Inserer_disquette(2);
+    Creer_fichier(L"A:\\sous 2\\dessous\\b.txt", "x");
+    Annuler(Chercher(L".txt", {L"a:\\sous 2\\a.txt", L"a:\\sous 2\\dessous\\b.txt"}));
     Unite::Vider(L'A');
     Unite::Inserer_disquette(1);
+}
+
+// Without its medium the drive refuses every directory that is left: that is no disk with unreadable directories.
+TEST_F(Recherche_arrets_AD, une_disquette_retiree_pendant_le_parcours_le_finit_et_rien_n_est_garde) {
+    Unite::Inserer_disquette(1);
+    Unite::Vider(L'A');
+    ASSERT_TRUE(Sur_hote(L"A:\\", L"for i in $(seq 8); do mkdir -p $(seq -f \"b$i/r%g\" 1000); done"));
+    Creer_fichier(L"A:\\a.txt", "x");
+    Lancer_sur_d();
+    Choisir_unite(L"Unité_srce", L'a');
+    Lancer_recherche(L".txt");
+    const auto resultats = Resultats();
+    EXIGER(resultats.Ouverte() && resultats.Lire(L"Mess_infos").size() > 3);
+    Unite::Retirer_disquette();
+    Attendre_avertissement(L"Support absent ou erreur d'accès sur A:");
+    resultats.Attendre_fermee();
+    Attendre_fin_commande();
+    EXPECT_TRUE(Est_actif(L"Chercher"));
+    Unite::Inserer_disquette(1);
+    Unite::Vider(L'A');
+    Creer_fichier(L"A:\\neuf\\c.txt", "x");
+    Annuler(Chercher(L".txt", {L"a:\\neuf\\c.txt"}));
+    Verifier_principale_utilisable();
 }
 
 TEST_F(Recherche_arrets_AD, cent_arrets_a_des_moments_quelconques_laissent_une_fenetre_utilisable) {

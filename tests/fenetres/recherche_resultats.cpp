@@ -26,6 +26,7 @@ TEST_F(Recherche_resultats_D, les_fichiers_trouves_sont_montres_en_minuscules_ni
         {L"ms*", L"", L"MS*.*", {L"d:\\ms.txt", L"d:\\zone\\msdos.bat", L"d:\\alpha\\fond\\ms2.bat"}},
         {L"ms*", L".bat", L"MS*.*", {L"d:\\ms.txt"}},
         {L"ms*", L"MS?.*", L"MS*.*", {L"d:\\ms.txt", L"d:\\zone\\msdos.bat"}},
+        {L" ms* ", L" *.bat ", L"MS*.*", {L"d:\\ms.txt"}},
         {L".", L"", L"*.", {L"d:\\lisez"}},
         {L"?.*", L"", L"?.*", {L"d:\\alpha\\c.doc", L"d:\\zone\\b.txt"}},
         {L"été", L"", L"ÉTÉ.*", {L"d:\\alpha\\fond\\été.txt"}},
@@ -132,12 +133,14 @@ TEST_F(Recherche_resultats_D, l_aide_a_le_texte_de_chaque_element) {
 }
 
 // Hidden files are not listed at the start, system files neither; the search finds the latter.
-TEST_F(Recherche_resultats_D, un_fichier_cache_n_est_trouve_que_si_les_listes_le_montrent) {
+TEST_F(Recherche_resultats_D, un_fichier_cache_n_est_pas_trouve_quand_les_listes_ne_le_montrent_pas) {
     for (const wchar_t * nom : {L"normal.txt", L"cache.txt", L"systeme.txt", L"lecture.txt"}) Creer_d(nom);
     Attributs(L"D:\\cache.txt", FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_ARCHIVE);
     Attributs(L"D:\\systeme.txt", FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE);
     Attributs(L"D:\\lecture.txt", FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_ARCHIVE);
+    ASSERT_NE(Attributs(L"D:\\cache.txt") & FILE_ATTRIBUTE_HIDDEN, 0u);
     Lancer_sur_d();
+    EXPECT_EQ(Entrees(L"Fichier_srce"), (Textes{L"lecture.txt", L"normal.txt"}));
     Annuler(Chercher(L".txt", {L"d:\\lecture.txt", L"d:\\normal.txt", L"d:\\systeme.txt"}));
 }
 
@@ -179,6 +182,8 @@ TEST_F(Recherche_resultats_D, les_fichiers_trouves_se_consultent) {
     }
     infos.Cliquer(L"Fin");
     infos.Attendre_fermee();
-    Attendre_fin_commande();
+    // Looked at, they are still there for the next command.
+    Verifier_resultats_dans_source({L"d:\\deux\\a.txt", L"d:\\un\\a.txt"},
+                                   L"   2 fichiers sélectionnés, total = 3\u00A0000 octets.");
     EXPECT_TRUE(Est_actif(L"Chercher"));
 }

@@ -1,4 +1,5 @@
 #include "fenetres/recherche.h"
+#include "fenetres/systeme_hote.h"
 
 #include <functional>
 
@@ -174,19 +175,112 @@ TEST_F(Resultats_D, selectionner_tout_porte_sur_les_resultats_et_un_clic_en_sort
     EXPECT_EQ(Lire(L"Sélecte"), L"&Sélectionner tout");
 }
 
-TEST_F(Resultats_D, un_fichier_disparu_avant_le_compte_est_signale_une_fois_et_quitte_les_resultats) {
+// The search told their lengths: the disk is not asked again, whatever it has become. The command finds out.
+TEST_F(Resultats_D, les_longueurs_viennent_de_la_recherche_et_un_fichier_disparu_se_signale_a_la_commande) {
     Lancer_sur_d();
+    Ouvrir(L"dest", L"d:\\vers");
     const auto resultats = Chercher(L".txt", trois);
     Frapper_avec(VK_CONTROL, 'A');
     ATTENDRE(resultats.Choisies(L"Liste_sél") == trois);
     ASSERT_TRUE(Effacer(L"D:\\un\\b.txt"));
     Pilote::Cliquer(resultats.Controle(L"OK"));
-    Introuvable(L"B.TXT");
-    Restent({L"d:\\un\\a.txt", L"d:\\un\\dessous\\c.txt"}, {L"d:\\un\\a.txt", L"d:\\un\\dessous\\c.txt"},
-            L"   2 fichiers sélectionnés, total = 1\u00A0030 octets.");
-    Cliquer_entree(L"Fichier_sél", L"d:\\un\\dessous\\c.txt");
-    ATTENDRE(Lire(L"Ligne_message") == L"   1 fichier sélectionné, total = 30 octets.");
+    resultats.Attendre_fermee();
+    Verifier_resultats_dans_source(trois, trois_comptes);
     EXPECT_TRUE(Boite_absente());
+    Cliquer(L"Copier");
+    Introuvable(L"B.TXT");
+    Restent({L"d:\\un\\a.txt", L"d:\\un\\dessous\\c.txt"}, {L"d:\\un\\dessous\\c.txt"},
+            L"   1 fichier sélectionné, total = 30 octets.");
+    Cliquer_entree(L"Fichier_sél", L"d:\\un\\a.txt");
+    ATTENDRE(Lire(L"Ligne_message") == L"   1 fichier sélectionné, total = 1\u00A0000 octets.");
+    EXPECT_TRUE(Boite_absente());
+}
+
+// Two files that only their case tells apart, as some disks can hold.
+TEST_F(Resultats_D, deux_noms_que_seule_la_casse_distingue_designent_chacun_leur_fichier) {
+    ASSERT_TRUE(Sur_hote(L"D:\\", L"printf 1 > un/Note.doc && printf 22 > un/nOTE.doc"));
+    const Textes deux = {L"d:\\un\\note.doc", L"d:\\un\\note.doc"};
+    Lancer_sur_d();
+    Ouvrir(L"dest", L"d:\\vers");
+    std::size_t tailles = 0;
+    for (const int rang : {0, 1}) {
+        const auto resultats = Chercher(L".doc", deux);
+        resultats.Choisir(L"Liste_sél", {rang});
+        resultats.Cliquer(L"OK");
+        resultats.Attendre_fermee();
+        Attendre_fin_commande();
+        const std::wstring ligne = Lire(L"Ligne_message");
+        const auto         taille =
+            ligne == L"   1 fichier sélectionné, total = 1 octets." ? std::size_t{1} : std::size_t{2};
+        EXPECT_EQ(ligne, L"   1 fichier sélectionné, total = " + std::to_wstring(taille) + L" octets.");
+        Cliquer(L"Copier");
+        Verifier_sans_resultats();
+        const std::wstring copie = taille == 1 ? L"Note.doc" : L"nOTE.doc";
+        EXPECT_EQ(Noms(L"D:\\vers"), (Textes{L"lisez.moi", copie}));
+        EXPECT_EQ(Lire_fichier(L"D:\\vers\\" + copie).size(), taille);
+        ASSERT_TRUE(Effacer(L"D:\\vers\\" + copie));
+        tailles += taille;
+    }
+    EXPECT_EQ(tailles, 3U);  // each of the two once
+}
+
+TEST_F(Resultats_D, un_fichier_de_plus_de_4_go_a_toute_sa_longueur) {
+    ASSERT_TRUE(Sur_hote(L"D:\\", L"truncate -s 5G un/immense.bin"));
+    Lancer_sur_d();
+    Porter(L".bin", {L"d:\\un\\immense.bin"});
+    ATTENDRE(Lire(L"Ligne_message") ==
+             L"   1 fichier sélectionné, total = 5\u00A0368\u00A0709\u00A0120 octets.");
+}
+
+// The results before have left for the search: the pane is that of its directory, which has no file here.
+TEST_F(Resultats_D, une_seconde_recherche_annulee_rend_le_volet_source_et_le_bouton) {
+    Lancer_avec_trois();
+    ASSERT_TRUE(Est_actif(L"Copier"));
+    Annuler(Chercher(L".txt", trois));
+    Verifier_sans_resultats();
+    EXPECT_FALSE(Est_actif(L"Copier"));
+    ATTENDRE(A_le_focus(L"Chercher"));
+    EXPECT_TRUE(Est_actif(L"Chercher"));
+}
+
+TEST_F(Resultats_D, une_demande_annulee_laisse_les_resultats_tels_quels) {
+    Lancer_avec_trois();
+    Annuler(Ouvrir_demande());
+    Verifier_resultats_dans_source(trois, trois_comptes);
+    EXPECT_TRUE(Est_actif(L"Copier"));
+    Cliquer(L"Copier");
+    Verifier_sans_resultats();
+    EXPECT_EQ(Noms(L"D:\\vers"), (Textes{L"a.txt", L"b.txt", L"c.txt", L"lisez.moi"}));
+}
+
+// Files on a drive that does not answer are not gone.
+class Resultats_AD : public Resultats_D {
+protected:
+    ~Resultats_AD() override {
+        Fermer();
+        Unite::Inserer_disquette(1);
+        Unite::Vider(L'A');
+    }
+};
+
+TEST_F(Resultats_AD, une_disquette_retiree_avant_la_commande_laisse_ses_resultats_choisis) {
+    Unite::Inserer_disquette(1);
+    Unite::Vider(L'A');
+    const Textes sur_a = {L"a:\\a.dat", L"a:\\sous\\b.dat"};
+    Creer_fichier(L"A:\\a.dat", "1");
+    Creer_fichier(L"A:\\sous\\b.dat", "22");
+    Lancer_sur_d();
+    Ouvrir(L"dest", L"d:\\vers");
+    Choisir_unite(L"Unité_srce", L'a');
+    Porter(L".dat", sur_a);
+    Unite::Retirer_disquette();
+    Cliquer(L"Copier");
+    Attendre_avertissement(L"Support absent ou erreur d'accès sur A:");
+    Restent(sur_a, sur_a, L"   2 fichiers sélectionnés, total = 3 octets.");
+    Unite::Inserer_disquette(1);
+    Cliquer(L"Copier");
+    Verifier_sans_resultats();
+    EXPECT_EQ(Noms(L"D:\\vers"), (Textes{L"a.dat", L"b.dat", L"lisez.moi"}));
 }
 
 TEST_F(Resultats_D, copier_prend_chaque_fichier_dans_son_repertoire_et_quitte_les_resultats) {

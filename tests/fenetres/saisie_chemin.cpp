@@ -338,6 +338,20 @@ TEST_F(Saisie_chemin_D,
     Arrive(L"srce", L"d:\\WINDOWS\\SYSTEM\\COLOR", {L"c.txt"});
 }
 
+// Whether a directory is still there is asked when its turn comes, and there may be none left.
+TEST_F(Saisie_chemin_D, un_homonyme_disparu_pendant_la_question_n_est_pas_propose) {
+    Lancer_sur_d();
+    Saisir(L"srce", L"color");
+    ATTENDRE(!Boite_absente());
+    ASSERT_TRUE(Pilote::Effacer(L"D:\\WINDOWS\\SYSTEM\\COLOR"));
+    Propose(L"D:\\JEUX\\COLOR", IDNO);
+    ATTENDRE(Lire(L"Chemin_srce").size() == 3);
+    EXPECT_TRUE(Boite_absente());
+    ASSERT_TRUE(Pilote::Effacer(L"D:\\JEUX\\Color"));
+    Saisir(L"srce", L"color");
+    Incorrect();
+}
+
 class Saisie_chemin_F : public Saisie_chemin {};
 
 TEST_F(Saisie_chemin_F, une_unite_sans_support_est_signalee_et_le_volet_reste) {

@@ -31,7 +31,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * donnees, std::size_t 
     const std::wstring complet = Completer_modele(saisi);
     exiger(complet.find(L'.') != complet.npos && complet.front() != L'.');
     exiger(Completer_modele(complet) == complet);
-    exiger(complet.find(saisi) != complet.npos);
+    const std::size_t debut = saisi.find_first_not_of(L' ');
+    if (debut == saisi.npos)
+        exiger(complet == L"*.*");
+    else
+        exiger(complet.find(saisi.substr(debut, saisi.find_last_not_of(L' ') + 1 - debut)) != complet.npos);
 
     // A pattern that is accepted holds more than wildcards, and nothing that the matching takes for its own signs.
     if (Modele_correct(complet)) {

@@ -2,6 +2,7 @@
 #include "platform/fichiers.h"
 #include "platform/parcours.h"
 #include "search/arborescence.h"
+#include "search/recherche.h"
 #include "services/banc.h"
 
 #include <algorithm>
@@ -62,6 +63,7 @@ ESSAI_UNITE(D, l_arborescence_va_niveau_par_niveau_dans_l_ordre_des_listes) {
                      L"d:\\zone\\b", L"d:\\Alpha\\fond\\cache"}),
               Chemins());
     EXPECT_EQ(0u, Repertoires_sautes());
+    EXPECT_TRUE(Arborescence_entiere());
     EXPECT_TRUE(Arborescence_valide(L"D: [DONNEES]"));
     EXPECT_FALSE(Arborescence_valide(L"c:"));
 }
@@ -81,6 +83,10 @@ ESSAI_UNITE(D, un_parcours_arrete_laisse_ce_qu_il_a_lu) {
     EXPECT_FALSE(Relever_arborescence(L"d:", deux_repertoires));
     EXPECT_EQ((Liste{L"d:\\", L"d:\\Alpha", L"d:\\été", L"d:\\zone", L"d:\\Alpha\\fond"}), Chemins());
     EXPECT_TRUE(Arborescence_valide(L"d:"));
+    // The same tree with its end is another one.
+    EXPECT_FALSE(Arborescence_entiere());
+    EXPECT_TRUE(Relever_arborescence(L"d:", Toujours));
+    EXPECT_TRUE(Arborescence_entiere());
 }
 
 ESSAI_UNITE(D, un_long_repertoire_laisse_la_main_en_chemin) {
@@ -91,15 +97,83 @@ ESSAI_UNITE(D, un_long_repertoire_laisse_la_main_en_chemin) {
     EXPECT_EQ(2, regards);
 }
 
-ESSAI_UNITE(D, un_repertoire_disparu_pendant_le_parcours_est_saute_et_compte) {
+// Its names are added to the tree by the thousand: the stop button does not wait for the last of them.
+ESSAI_UNITE(D, les_noms_d_un_tres_long_repertoire_laissent_la_main_en_chemin) {
+    constexpr int nombre = 5000;
+    Vider_repertoire(L"d:");
+    for (int i = 0; i < nombre; ++i) CreateDirectoryW((L"d:\\r" + std::to_wstring(i)).c_str(), nullptr);
+    const auto au_premier_ajout = [](const Arbre & arbre, std::size_t) { return arbre.Nombre() == 1; };
+    EXPECT_FALSE(Relever_arborescence(L"d:", au_premier_ajout));
+    EXPECT_GT(Arborescence().Nombre(), 1u);
+    EXPECT_LE(Arborescence().Nombre(), static_cast<std::size_t>(nombre));
+    Vider_repertoire(L"d:");
+}
+
+ESSAI_UNITE(D, un_repertoire_disparu_pendant_le_parcours_est_saute_sans_passer_pour_illisible) {
     Preparer_d();
     const auto retirer = [](const Arbre & arbre, std::size_t index) {
         if (arbre.Chemin(index) == L"d:\\été") RemoveDirectoryW(L"d:\\été");
         return true;
     };
     EXPECT_TRUE(Relever_arborescence(L"d:", retirer));
-    EXPECT_EQ(1u, Repertoires_sautes());
+    EXPECT_EQ(0u, Repertoires_sautes());
     EXPECT_EQ(8u, Arborescence().Nombre());
+}
+
+ESSAI_UNITE(D, un_refus_saute_son_repertoire_et_une_unite_perdue_finit_le_parcours) {
+    const auto saute = [](int numero, std::size_t index) {
+        return Repertoire_saute(Erreur_execution(numero, 0, L"d:\\zone"), index);
+    };
+    Preparer_d();
+    Relever_arborescence(L"d:", Toujours);
+    const std::size_t nombre = Arborescence().Nombre();
+    EXPECT_TRUE(saute(Numero::permission_refusee, 3));
+    EXPECT_TRUE(saute(Numero::nom_incorrect, 3));
+    EXPECT_FALSE(saute(Numero::chemin_introuvable, 3));
+    EXPECT_EQ(nombre, Arborescence().Nombre());
+    for (const int numero : {Numero::unite_absente, Numero::disque_non_pret, Numero::memoire}) {
+        EXPECT_EQ(numero, Numero_leve([&] { saute(numero, 3); }));
+        EXPECT_EQ(0u, Arborescence().Nombre());
+        Relever_arborescence(L"d:", Toujours);
+    }
+    EXPECT_EQ(Numero::permission_refusee, Numero_leve([&] { saute(Numero::permission_refusee, 0); }));
+    EXPECT_EQ(0u, Arborescence().Nombre());
+}
+
+Liste Trouves(const Demande_recherche & demande, Bilan_recherche & bilan) {
+    Liste trouves;
+    bilan = Rechercher(
+        demande,
+        [&](const Fichier_trouve & fichier) {
+            trouves.push_back(fichier.chemin + L" " + std::to_wstring(fichier.taille.value_or(0)));
+        },
+        [] { return true; });
+    std::sort(trouves.begin(), trouves.end());
+    return trouves;
+}
+
+ESSAI_UNITE(D, la_recherche_donne_les_chemins_du_disque_et_les_longueurs_et_les_caches_sur_demande) {
+    Preparer_d();
+    Poser(L"d:\\zone\\Vu.TXT", "12345");
+    Poser(L"d:\\zone\\Cache.txt", "12");
+    Regler_attributs(L"d:\\zone\\Cache.txt", FILE_ATTRIBUTE_HIDDEN);
+    ASSERT_NE(0u, Attributs(L"d:\\zone\\Cache.txt") & FILE_ATTRIBUTE_HIDDEN);
+    Relever_arborescence(L"d:", Toujours);
+    Bilan_recherche bilan;
+    EXPECT_EQ((Liste{L"d:\\fichier.txt 1", L"d:\\zone\\Vu.TXT 5"}), Trouves({L"*.txt", L"", false}, bilan));
+    EXPECT_EQ((Liste{L"d:\\fichier.txt 1", L"d:\\zone\\Cache.txt 2", L"d:\\zone\\Vu.TXT 5"}),
+              Trouves({L"*.txt", L"", true}, bilan));
+    EXPECT_TRUE(bilan.entiere);
+}
+
+ESSAI_UNITE(D, un_repertoire_disparu_depuis_le_parcours_n_est_pas_dit_illisible) {
+    Preparer_d();
+    Relever_arborescence(L"d:", Toujours);
+    RemoveDirectoryW(L"d:\\été");
+    Bilan_recherche bilan;
+    EXPECT_EQ(Liste{L"d:\\fichier.txt 1"}, Trouves({L"*.txt", L"", false}, bilan));
+    EXPECT_TRUE(bilan.entiere);
+    EXPECT_EQ(0u, bilan.sautes);
 }
 
 ESSAI_UNITE(A, un_autre_support_n_a_pas_l_arborescence_du_premier) {

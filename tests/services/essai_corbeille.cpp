@@ -1,9 +1,11 @@
 #include "app/globals.h"
+#include "platform/poignee.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
 #include "recycle/corbeille.h"
 #include "services/banc.h"
 
+#include <algorithm>
 #include <atomic>
 #include <thread>
 
@@ -38,7 +40,12 @@ protected:
     }
 
     Depot Deposable(const std::wstring & nom, std::uint64_t taille) const {
-        Fichier(nom);
+        const Poignee_fichier fichier(
+            CreateFileW(Fichier(nom).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+        LARGE_INTEGER fin;
+        fin.QuadPart = static_cast<LONGLONG>(taille);
+        EXPECT_TRUE(SetFilePointerEx(fichier.Valeur(), fin, nullptr, FILE_BEGIN) &&
+                    SetEndOfFile(fichier.Valeur()));
         return {nom, Racine(), taille};
     }
     std::string Total_garde() const {
@@ -102,7 +109,7 @@ TEST_F(Corbeilles, ce_que_32_bits_ne_comptent_pas_est_refuse_avant_que_rien_ne_s
     EXPECT_EQ(Deposer_fichiers({Deposable(L"a", 2147483000), Deposable(L"b", 647)}, Toujours), 2u);
     EXPECT_EQ(variables.Total_corbeille, 2147483647);
     EXPECT_EQ(Numero_leve([&] { Deposer_fichiers({Deposable(L"c", 1)}, Toujours); }), 6);
-    EXPECT_EQ(Contenu(Chemin(L"c")), "contenu");
+    EXPECT_EQ(Contenu(Chemin(L"c")), "c");
     EXPECT_EQ(Deposer_fichiers({Deposable(L"vide", 0)}, Toujours), 1u);
     EXPECT_EQ(Magasin_corbeille().Fiches().size(), 3u);
 }
@@ -138,6 +145,32 @@ TEST_F(Corbeilles, la_purge_suit_la_limite_et_laisse_le_total_de_ce_qui_reste) {
     EXPECT_EQ(variables.Date_du_jour, Jour_serie());
     ASSERT_EQ(Magasin_corbeille().Fiches().size(), 2u);
     EXPECT_EQ(Magasin_corbeille().Fiches()[0].nom, L"b");
+}
+
+// Events run during a purge, as the stop button's would; no command can start meanwhile.
+TEST_F(Corbeilles, les_evenements_passent_pendant_la_purge_et_peuvent_l_arreter) {
+    constexpr std::size_t fichiers = 900;
+    Ouvrir_corbeille();
+    std::vector<Depot> depots;
+    for (std::size_t i = 0; i < fichiers; ++i) depots.push_back(Deposable(std::to_wstring(i), 1000));
+    ASSERT_EQ(Deposer_fichiers(depots, Toujours), fichiers);
+    variables.Taille_corbeille = 1;
+    const UINT_PTR minuterie   = SetTimer(nullptr, 0, 10, [](HWND, UINT, UINT_PTR, DWORD) {
+        EXPECT_TRUE(variables.Garde);
+        variables.Arret_demande = true;
+    });
+    Purger_corbeille();
+    KillTimer(nullptr, minuterie);
+    EXPECT_TRUE(variables.Arret_demande);
+    EXPECT_FALSE(variables.Garde);
+    const std::size_t restants = Magasin_corbeille().Fiches().size();
+    EXPECT_GT(restants, 1u);
+    EXPECT_LT(restants, fichiers);
+    EXPECT_EQ(Total_garde(), std::to_string(restants * 1000));
+    EXPECT_EQ(static_cast<std::size_t>(std::ranges::count(Contenu(Index()), '\n')), restants);
+    variables.Arret_demande = false;
+    Purger_corbeille();
+    EXPECT_EQ(Magasin_corbeille().Fiches().size(), 1u);
 }
 
 TEST_F(Corbeilles, une_limite_incorrecte_ne_purge_rien) {
@@ -212,6 +245,13 @@ TEST(Exclusivites, celle_qui_ne_finit_pas_est_l_erreur_70) {
     });
     WaitForSingleObject(prise, 5000);
     EXPECT_EQ(Numero_leve([] { const Exclusivite tour(L"essai des services", 200); }), 70);
+    // Events run meanwhile, and do not make it longer.
+    int                 passages = 0;
+    const std::uint64_t debut    = Horloge_ms();
+    EXPECT_EQ(Numero_leve([&] { const Exclusivite tour(L"essai des services", 300, [&] { ++passages; }); }),
+              70);
+    EXPECT_GE(passages, 2);
+    EXPECT_LT(Horloge_ms() - debut, 3000u);
     SetEvent(fini);
     autre.join();
     CloseHandle(prise);

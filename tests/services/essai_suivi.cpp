@@ -98,17 +98,65 @@ TEST_F(Suivi, un_renommage_refuse_ne_laisse_aucune_ligne) {
 }
 
 TEST_F(Suivi, une_coupure_avant_le_renommage_laisse_les_fichiers_sous_l_ancien_nom) {
-    EXPECT_THROW(magasin.Suivre_repertoire(
-                     Chemin(L"haut"), Chemin(L"neuf"),
-                     [&] {
-                         // The index as the disk has it at this instant.
-                         Magasin autre;
-                         autre.Ouvrir({Chemin(L"index")});
-                         for (const Fiche & fiche : magasin.Fiches())
-                             EXPECT_EQ(std::count(autre.Fiches().begin(), autre.Fiches().end(), fiche), 1);
-                         EXPECT_EQ(Lignes(), 5u) << "les deux noms";
-                         throw Erreur_execution(Numero::acces_fichier, 5, {});
-                     }),
+    const std::string avant = Contenu(Chemin(L"index\\KORVANE.CRB"));
+    EXPECT_THROW(magasin.Suivre_repertoire(Chemin(L"haut"), Chemin(L"neuf"),
+                                           [&] {
+                                               EXPECT_EQ(Lignes(), 5u) << "les deux noms";
+                                               // What a start would make of the index as it is at this instant.
+                                               Magasin autre;
+                                               Poser(Repertoire(L"copie") + L"\\KORVANE.CRB",
+                                                     Contenu(Chemin(L"index\\KORVANE.CRB")));
+                                               autre.Ouvrir({Chemin(L"copie")});
+                                               EXPECT_EQ(autre.Fiches(), magasin.Fiches());
+                                               EXPECT_EQ(Contenu(Chemin(L"copie\\KORVANE.CRB")), avant);
+                                               throw Erreur_execution(Numero::acces_fichier, 5, {});
+                                           }),
                  Erreur_execution);
     EXPECT_EQ(Lignes(), 3u);
+}
+
+TEST_F(Suivi, une_coupure_apres_le_renommage_laisse_l_ordre_d_effacement) {
+    const std::wstring index = Chemin(L"index\\KORVANE.CRB");
+    std::string        coupe;
+    magasin.Suivre_repertoire(Chemin(L"haut bis"), Chemin(L"zz"), [&] {
+        Renommer_fichier(Chemin(L"haut bis"), Chemin(L"zz"));
+        coupe = Contenu(index);
+    });
+    magasin.Fermer();
+    const std::string acheve = Contenu(index);
+    Regler_attributs(index, FILE_ATTRIBUTE_NORMAL);
+    Poser(index, coupe);
+    magasin.Ouvrir({Chemin(L"index")});
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"zz\\", L"haut\\", L"haut\\bas\\"}));
+    EXPECT_EQ(Contenu(index), acheve);
+    EXPECT_EQ(Lignes(), 3u);
+}
+
+TEST_F(Suivi, une_purge_apres_le_renommage_detruit_le_plus_ancien) {
+    Renommer(L"haut bis", L"zz");
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"zz\\", L"haut\\", L"haut\\bas\\"}));
+    int demandes = 0;
+    magasin.Purger({0, 1}, jour + 100, [&] { return ++demandes > 1; });
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"haut\\", L"haut\\bas\\"}));
+    EXPECT_EQ(Lignes(), 2u);
+    magasin.Purger({0, 1}, jour + 100, Toujours);
+    Tout_rendre();
+    EXPECT_TRUE(Fichier_existe(Chemin(L"haut\\bas\\a.txt")));
+    EXPECT_FALSE(Fichier_existe(Chemin(L"haut\\a.txt")));
+}
+
+// The same name, length and coded name in two directories that are both there are two files.
+TEST_F(Suivi, deux_fichiers_pareils_de_deux_repertoires_restent_deux) {
+    magasin.Fermer();
+    std::string racine;
+    for (const wchar_t lettre : Racine()) racine += static_cast<char>(lettre);
+    const std::string lignes = "crb45000.001 00000007 x.txt " + racine + "\\haut\\\r\n" +
+                               "crb45000.001 00000007 x.txt " + racine + "\\haut bis\\\r\n" +
+                               "crb45000.001 00000007 x.txt " + racine + "\\parti\\\r\n";
+    Regler_attributs(Chemin(L"index\\KORVANE.CRB"), FILE_ATTRIBUTE_NORMAL);
+    Poser(Chemin(L"index\\KORVANE.CRB"), lignes);
+    for (const wchar_t * dossier : {L"haut", L"haut bis"}) Fichier(dossier + std::wstring(L"\\crb45000.001"));
+    magasin.Ouvrir({Chemin(L"index")});
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"haut\\", L"haut bis\\", L"parti\\"}));
+    EXPECT_EQ(Contenu(Chemin(L"index\\KORVANE.CRB")), lignes);
 }

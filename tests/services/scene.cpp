@@ -88,8 +88,11 @@ public:
     void Chaque_fichier() {
         for (const Scene::Fichier & fichier : scene_.Fichiers()) {
             const std::size_t places = Places(fichier);
-            const auto        listes = std::ranges::count(fiches_, scene_.Racine() + L"\\" + fichier.nom,
-                                                          [](const Fiche & f) { return f.Chemin_avant(); });
+            const auto        listes = std::ranges::count_if(fiches_, [&](const Fiche & f) {
+                const std::wstring avant = f.Chemin_avant();
+                return avant == scene_.Racine() + L"\\" + fichier.nom ||
+                       (!fichier.autre.empty() && avant == scene_.Racine() + L"\\" + fichier.autre);
+            });
             const std::size_t total  = places + static_cast<std::size_t>(listes);
             const bool        manque = total == 0 && fichier.sort == Scene::Sort::garder;
             if (manque) Noter("perdu : ", fichier.nom);
