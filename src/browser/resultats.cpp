@@ -97,6 +97,12 @@ void Compter_a_l_arrivee(Gestion_Fichiers & f) {
 // A command that takes files away from where they are.
 bool Emporte(const std::wstring & commande) { return commande == L"EFFACER" || commande == L"DEPLACER"; }
 
+// The drive does not answer. Any other refusal concerns one file, which is there.
+bool Muette(const Erreur_execution & erreur) {
+    return erreur.numero == Numero::unite_absente || erreur.numero == Numero::disque_non_pret ||
+           erreur.numero == Numero::entree_sortie;
+}
+
 // Which of these results are gone, in order. Nothing more is asked of a drive that does not answer: each question would
 // wait for it.
 std::vector<int> Disparus(const Gestion_Fichiers & f, const std::vector<int> & traites) {
@@ -105,8 +111,10 @@ std::vector<int> Disparus(const Gestion_Fichiers & f, const std::vector<int> & t
         try {
             Lire_attributs(Chemin_resultat(f, index));
         } catch (const Erreur_execution & erreur) {
-            if (!Disparu(erreur)) break;
-            disparus.push_back(index);
+            if (Disparu(erreur))
+                disparus.push_back(index);
+            else if (Muette(erreur))
+                break;
         }
         Application::Laisser_passer();
     }
@@ -129,9 +137,11 @@ void Retirer_tous(Gestion_Fichiers & f, const std::vector<int> & disparus, std::
     }
     f.Resultats = std::move(restent);
     Remplir_liste(f);
-    f.Fichier_sél.TopIndex(std::max(0, haut - nombre_avant(haut)));
     std::erase_if(choisis, est_disparu);
-    for (const int index : choisis) f.Fichier_sél.Selected(index - nombre_avant(index), true);
+    for (int & index : choisis) index -= nombre_avant(index);
+    f.Fichier_sél.Selectionner(choisis);
+    // Selecting scrolls.
+    f.Fichier_sél.TopIndex(std::max(0, haut - nombre_avant(haut)));
 }
 }  // namespace
 

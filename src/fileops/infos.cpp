@@ -147,11 +147,21 @@ bool Est_montre(const Info_Fichiers & w) { return w.Caché.Enabled(); }
 // The first control that something can be done with.
 void Premier_focus(Info_Fichiers & w) { Est_montre(w) ? w.Caché.SetFocus() : w.Fin.SetFocus(); }
 
-// When the first file cannot be shown, stepping leads to another one, if there is any.
+// When the first file cannot be shown, stepping leads to another one, if there is any. Only a file that is gone is passed
+// over: a drive that does not answer would make each question wait.
 bool Reste_a_montrer() {
+    const Application::Sablier sablier;
     variables.Index_courant = 0;
-    for (Selection_suivante(1); variables.Fichier_trouve; Selection_suivante(1))
-        if (Fichier_existe(variables.Chemin_source)) return true;
+    for (Selection_suivante(1); variables.Fichier_trouve; Selection_suivante(1)) {
+        try {
+            if ((Lire_attributs(variables.Chemin_source) & Attribut::repertoire) == 0) return true;
+        } catch (const Erreur_execution & erreur) {
+            const int n = erreur.numero;
+            if (n == Numero::unite_absente || n == Numero::disque_non_pret || n == Numero::entree_sortie)
+                return false;
+            if (n != Numero::fichier_introuvable && n != Numero::chemin_introuvable) return true;
+        }
+    }
     return false;
 }
 

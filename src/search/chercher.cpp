@@ -21,8 +21,9 @@ public:
         variables.Recherche_en_cours = false;
         variables.Recherche_annulee  = false;
         f_.Chercher.Enabled(true);
-        // Disabling the button took the focus away from it.
-        if (focus_ != nullptr && f_.Controle_actif() != focus_) focus_->SetFocus();
+        // Disabling the button took the focus away from it. A list of results that has left is not given it again.
+        if (focus_ != nullptr && focus_->Visible() && focus_->Enabled() && f_.Controle_actif() != focus_)
+            focus_->SetFocus();
     }
     Recherche_ouverte(const Recherche_ouverte &)             = delete;
     Recherche_ouverte & operator=(const Recherche_ouverte &) = delete;

@@ -70,6 +70,14 @@ void Liste::Selected(int index, bool choisi) {
     if (Click) Click();
 }
 
+void Liste::Selectionner(const std::vector<int> & indices) {
+    Envoyer(WM_SETREDRAW, FALSE);
+    Envoyer(LB_SETSEL, FALSE, -1);
+    for (const int index : indices) Envoyer(LB_SETSEL, TRUE, index);
+    Envoyer(WM_SETREDRAW, TRUE);
+    Controle::Refresh();  // repaints: the lists of the disk would read it again
+}
+
 std::vector<int> Liste::Selection() const {
     if (!multiple_) return ListIndex() >= 0 ? std::vector<int>{ListIndex()} : std::vector<int>{};
     const std::intptr_t nombre = Envoyer(LB_GETSELCOUNT);

@@ -13,9 +13,10 @@ public:
     virtual int      ListIndex() const;     // entry with the focus, -1 when none
     virtual void     ListIndex(int index);  // raises Click when it changes
     bool             Selected(int index) const;
-    void             Selected(int index, bool choisi);  // raises Click when the state changes
-    std::vector<int> Selection() const;                 // indexes selected, ascending
-    void             Tout_selectionner(bool choisi);    // raises nothing
+    void             Selected(int index, bool choisi);                // raises Click when the state changes
+    std::vector<int> Selection() const;                               // indexes selected, ascending
+    void             Tout_selectionner(bool choisi);                  // raises nothing
+    void             Selectionner(const std::vector<int> & indices);  // these and no other; raises nothing
     int              TopIndex() const;
     void             TopIndex(int index);
     void             AddItem(const std::wstring & texte);
