@@ -47,6 +47,12 @@ std::uint64_t Longueur(const std::vector<Ligne_index> & lignes) {
     return longueur;
 }
 
+std::string Octets(const std::vector<Ligne_index> & lignes) {
+    std::string octets;
+    for (const Ligne_index & ligne : lignes) octets += ligne.octets;
+    return octets;
+}
+
 // One look at the disk takes all that was done before on its volume along.
 bool Renommages_fixes(const std::vector<Ligne_index> & lignes) {
     std::set<std::wstring> repertoires;
@@ -165,10 +171,11 @@ void Index_corbeille::Absorber(const std::wstring & repertoire) {
 
 bool Index_corbeille::Synchroniser() {
     if (repertoire_.empty()) throw Erreur_execution(Numero::canal_incorrect, 0, {});
-    if (Ouvert() && canal_.A_sa_place() && canal_.Longueur() == longueur_) return false;
-    const bool  disparu = !Est_la(Chemin(L"CRB"));
-    std::string octets;
-    for (const Ligne_index & ligne : lignes_) octets += ligne.octets;
+    const std::string octets = Octets(lignes_);
+    // Another program may have put other bytes in as much room.
+    if (Ouvert() && canal_.A_sa_place() && canal_.Longueur() == longueur_ && canal_.Lire_tout() == octets)
+        return false;
+    const bool disparu = !Est_la(Chemin(L"CRB"));
     canal_.Fermer();
     if (disparu && !octets.empty()) return Remplacer(octets), true;
     Ouvrir_canal();
@@ -219,7 +226,17 @@ void Index_corbeille::Confirmer(const std::vector<Fiche> & fiches, std::size_t f
     premiere_ += nombre;
 }
 
-void Index_corbeille::Reecrire(const Chemins_codes & partis) {
+// A file that left under its directory's new name has left under the former one: once it is gone the disk no longer tells.
+Chemins_codes Index_corbeille::Avec_anciens(const Chemins_codes & partis) const {
+    Chemins_codes tous = partis;
+    for (const Ligne_index & ligne : lignes_)
+        if (!ligne.suivie.empty() && partis.count(Sans_casse(ligne.suivie + ligne.fiche->code)) != 0)
+            tous.insert(Sans_casse(ligne.fiche->Chemin_code()));
+    return tous;
+}
+
+void Index_corbeille::Reecrire(const Chemins_codes & demandes) {
+    const Chemins_codes partis = Avec_anciens(demandes);
     if (!Synchroniser()) Constater();
     const bool  fixes = Renommages_fixes(lignes_);
     std::string octets;
@@ -229,7 +246,8 @@ void Index_corbeille::Reecrire(const Chemins_codes & partis) {
             ligne.fiche && (absente || partis.count(Sans_casse(ligne.fiche->Chemin_code())) != 0);
         if (!part) octets += ligne.octets;
     }
-    if (octets.size() != longueur_) Remplacer(octets);
+    // The lines of a renamed directory may only have changed places.
+    if (octets.size() != longueur_ || octets != canal_.Lire_tout()) Remplacer(octets);
 }
 
 void Index_corbeille::Remplacer(const std::string & octets) {

@@ -47,17 +47,18 @@ public:
 
     // Replaces the index by one without these records and those whose files are gone. A file whose directory took another name
     // keeps its former line until that name is on the disk.
-    void Reecrire(const Chemins_codes & partis);
+    void Reecrire(const Chemins_codes & demandes);
     void Supprimer();
 
 private:
-    std::wstring Chemin(const wchar_t * extension) const;
-    void         Ouvrir_canal();
-    void         Recuperer_reecriture();
-    void         Completer_derniere();
-    void         Achever_renommages();
-    void         Oter_zeros_de_fin();
-    void         Remplacer(const std::string & octets);
+    std::wstring  Chemin(const wchar_t * extension) const;
+    Chemins_codes Avec_anciens(const Chemins_codes & partis) const;
+    void          Ouvrir_canal();
+    void          Recuperer_reecriture();
+    void          Completer_derniere();
+    void          Achever_renommages();
+    void          Oter_zeros_de_fin();
+    void          Remplacer(const std::string & octets);
 
     std::wstring               repertoire_;
     Canal_ajout                canal_;

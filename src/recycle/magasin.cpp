@@ -46,6 +46,11 @@ bool Est_ailleurs(const Erreur_execution & erreur, const Fiche & fiche) {
            Peut_revenir(fiche.Chemin_code());
 }
 
+bool Sans_fiche(const std::vector<Ligne_index> & lignes) {
+    return std::none_of(lignes.begin(), lignes.end(),
+                        [](const Ligne_index & ligne) { return ligne.fiche.has_value(); });
+}
+
 // The directory takes no index, and will not in a moment: another place is not a second index beside one that is only busy.
 bool Interdit_d_ecrire(const Erreur_execution & erreur) {
     switch (erreur.numero) {
@@ -115,16 +120,19 @@ void Magasin::Relire() {
     Actualiser();
 }
 
-void Magasin::Reecrire(const std::vector<Fiche> & parties, std::exception_ptr premiere_erreur) {
+void Magasin::Reecrire(const std::vector<Fiche> & parties, std::exception_ptr premiere_erreur,
+                       bool vide_aussi) {
     Chemins_codes partis;
     for (const Fiche & fiche : parties) partis.insert(Sans_casse(fiche.Chemin_code()));
     try {
         const Exclusivite tour(tour_de_la_corbeille, attente_du_tour, entretemps_);
         // A file that is gone leaves the list, whatever the error was.
-        partis.empty() ? index_.Constater() : index_.Reecrire(partis);
+        partis.empty() && !vide_aussi ? index_.Constater() : index_.Reecrire(partis);
+        if (vide_aussi && Sans_fiche(index_.Lignes())) index_.Supprimer();
     } catch (const Erreur_execution &) {
-        // The records that could not leave have no file: they are not listed.
-        if (!Tenter([&] { index_.Relire(); })) index_.Constater();
+        // The records that could not leave have no file: they are not listed. Without the turn the file is not read: another
+        // program may be writing it.
+        index_.Constater();
         if (!premiere_erreur) premiere_erreur = std::current_exception();
     }
     Actualiser();
@@ -172,17 +180,15 @@ void Magasin::Restaurer(const std::vector<std::size_t> & choix, const std::funct
 }
 
 bool Magasin::Detruire_fiches(const std::function<bool()> & continuer, std::vector<Fiche> & detruites,
-                              bool & ailleurs, std::exception_ptr & erreur) {
+                              std::exception_ptr & erreur) {
     for (std::size_t i = 0; i < fiches_.size(); ++i) {
         if (i > 0 && continuer && !continuer()) return false;
         try {
             Detruire_code(fiches_[i]);
             detruites.push_back(fiches_[i]);
         } catch (const Erreur_execution & cause) {
-            const bool absente = Est_ailleurs(cause, fiches_[i]);
-            ailleurs           = ailleurs || absente;
             // The file is told by its own name.
-            if (!absente && !erreur)
+            if (!erreur && !Est_ailleurs(cause, fiches_[i]))
                 erreur = std::make_exception_ptr(
                     Erreur_execution(cause.numero, cause.code_systeme, fiches_[i].Chemin_avant()));
         }
@@ -194,16 +200,8 @@ bool Magasin::Detruire(const std::function<bool()> & continuer) {
     std::exception_ptr erreur;
     std::vector<Fiche> detruites;
     Relire();
-    const auto & lignes   = index_.Lignes();
-    bool         ailleurs = std::any_of(lignes.begin(), lignes.end(), [](const Ligne_index & ligne) {
-        return ligne.presence == Presence::autre_support;
-    });
-    if (!Detruire_fiches(continuer, detruites, ailleurs, erreur)) return Reecrire(detruites, erreur), false;
-    if (erreur || ailleurs) Reecrire(detruites, erreur);
-    if (!ailleurs) {
-        const Exclusivite tour(tour_de_la_corbeille, attente_du_tour, entretemps_);
-        index_.Supprimer();
-    }
-    Fermer();
-    return true;
+    const bool finie = Detruire_fiches(continuer, detruites, erreur);
+    Reecrire(detruites, erreur, finie);
+    if (finie) Fermer();
+    return finie;
 }

@@ -64,14 +64,15 @@ public:
                            const std::function<void()> & renommer);
     // Every file of the index is destroyed, then the index, which is closed. A file that cannot be destroyed stays in it, and its
     // error, which names it as it was before erasure, is thrown when the others are gone. The index stays, closed, when it names
-    // files of a drive that does not answer or of another removable medium.
+    // files of a drive that does not answer or of another removable medium, files that are not its own, or what another program
+    // stored in the meantime.
     // `continuer` is asked before each file but the first; false when it ended the destruction: what is left stays, open.
     bool Detruire(const std::function<bool()> & continuer);
 
 private:
     void Ouvrir_dans(const std::wstring & repertoire, bool premier, std::exception_ptr & erreur);
     bool Detruire_fiches(const std::function<bool()> & continuer, std::vector<Fiche> & detruites,
-                         bool & ailleurs, std::exception_ptr & erreur);
+                         std::exception_ptr & erreur);
     void Actualiser();  // fiches_ from the lines of the index
     void Accorder();    // memory with the disk, before anything is changed
     void Ranger(std::vector<Fiche> & fiches, const std::function<bool()> & continuer, std::size_t & deposes);
@@ -80,7 +81,9 @@ private:
     void Changer_code(std::vector<Fiche> & fiches, std::size_t rang);
     // The records of a directory's files as they are once it has another name.
     std::vector<Fiche> Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const;
-    void               Reecrire(const std::vector<Fiche> & parties, std::exception_ptr premiere_erreur);
+    // With `vide_aussi` the index is removed, and closed, when it names no file any more.
+    void Reecrire(const std::vector<Fiche> & parties, std::exception_ptr premiere_erreur,
+                  bool vide_aussi = false);
 
     std::function<void()> entretemps_;
     Index_corbeille       index_;

@@ -11,6 +11,7 @@
 #include <set>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace {
 
@@ -58,13 +59,15 @@ std::optional<Tailles> Constat::Presents(const std::wstring & repertoire) {
     }
 }
 
-// Stored files are read-only: one of another length is another program's.
+// A stored file may have grown since, by a program that had it open, and is still read-only; one of another length that anybody
+// may write is another program's.
 Presence Constat::Presence_de(const Fiche & fiche) {
     if (muettes_.count(Sans_casse(Racine(fiche.repertoire))) != 0) return Presence::inaccessible;
     try {
         const Entree_repertoire etat = Lire_etat(fiche.Chemin_code());
         if ((etat.attributs & Attribut::repertoire) != 0) return Presence::absente;
-        return etat.taille == fiche.taille ? Presence::la : Presence::autre_fichier;
+        const bool notre = etat.taille == fiche.taille || (etat.attributs & Attribut::lecture) != 0;
+        return notre ? Presence::la : Presence::autre_fichier;
     } catch (const Erreur_execution & erreur) {
         Noter(erreur, fiche.repertoire);
         return erreur.numero == Numero::fichier_introuvable && Repertoire_existe(fiche.repertoire)
@@ -128,20 +131,127 @@ bool N_est_plus_la(const Ligne_index & ligne) {
     return ligne.presence == Presence::inaccessible && Repertoire_disparu(ligne.fiche->repertoire);
 }
 
+// Two directories whose paths differ by one name alone: those paths, folded, down to that name.
+using Paire = std::pair<std::wstring, std::wstring>;
+
+std::optional<Paire> Seul_ecart(const std::wstring & ancien, const std::wstring & nouveau) {
+    const std::wstring a     = Sans_casse(ancien);
+    const std::wstring b     = Sans_casse(nouveau);
+    const auto         ecart = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
+    if (ecart == 0 || a == b) return std::nullopt;
+    const std::size_t debut = a.rfind(L'\\', static_cast<std::size_t>(ecart) - 1) + 1;
+    const std::size_t fin_a = a.find(L'\\', debut);
+    const std::size_t fin_b = b.find(L'\\', debut);
+    if (debut == 0 || fin_a == std::wstring::npos || fin_b == std::wstring::npos) return std::nullopt;
+    if (a.compare(fin_a, a.npos, b, fin_b, b.npos) != 0) return std::nullopt;
+    return Paire{a.substr(0, fin_a + 1), b.substr(0, fin_b + 1)};
+}
+
+std::wstring Signature(const std::wstring & repertoire, const Fiche & fiche) {
+    return repertoire + L'|' + Marque(fiche);
+}
+
+// Tells files of a directory that took another name from files of two directories that are alike by chance.
+class Renommages {
+public:
+    explicit Renommages(std::vector<Ligne_index> & lignes);
+    void Relier(const Lot & lot);
+    void Relier_sans_fichier();
+
+private:
+    bool Tous_jumeaux(const Paire & paire) const;
+    bool Possible(const std::optional<Paire> & paire);
+    bool Fixe(const std::wstring & repertoire);
+    void Suivre(Ligne_index & ligne, const std::wstring & ici);
+
+    std::vector<Ligne_index> &   lignes_;
+    Noms                         signatures_;
+    std::map<Paire, bool>        possibles_;
+    std::set<Paire>              reliees_;
+    std::map<std::wstring, bool> fixes_;
+};
+
+Renommages::Renommages(std::vector<Ligne_index> & lignes) : lignes_(lignes) {
+    for (const Ligne_index & ligne : lignes)
+        if (ligne.fiche) signatures_.insert(Signature(Sans_casse(ligne.fiche->repertoire), *ligne.fiche));
+}
+
+// The whole directory was renamed: each of its records is there under the new name as well.
+bool Renommages::Tous_jumeaux(const Paire & paire) const {
+    const std::wstring & ancien  = paire.first;
+    const std::wstring & nouveau = paire.second;
+    return std::all_of(lignes_.begin(), lignes_.end(), [&](const Ligne_index & ligne) {
+        if (!ligne.fiche) return true;
+        const std::wstring ici = Sans_casse(ligne.fiche->repertoire);
+        return !ici.starts_with(ancien) ||
+               signatures_.count(Signature(nouveau + ici.substr(ancien.size()), *ligne.fiche)) != 0;
+    });
+}
+
+bool Renommages::Possible(const std::optional<Paire> & paire) {
+    if (!paire) return false;
+    auto connue = possibles_.find(*paire);
+    if (connue == possibles_.end()) connue = possibles_.emplace(*paire, Tous_jumeaux(*paire)).first;
+    return connue->second;
+}
+
+bool Renommages::Fixe(const std::wstring & repertoire) {
+    const std::wstring racine = Sans_casse(Racine(repertoire));
+    auto               connue = fixes_.find(racine);
+    if (connue == fixes_.end()) connue = fixes_.emplace(racine, Support_fixe(racine)).first;
+    return connue->second;
+}
+
+// On a drive that may have another medium the former line is kept: that medium may have the file.
+void Renommages::Suivre(Ligne_index & ligne, const std::wstring & ici) {
+    ligne.presence = Fixe(ici) ? Presence::absente : Presence::autre_support;
+    ligne.suivie   = ici;
+}
+
 // Lines of one mark. The only one whose file is there takes the place of the earliest of the others: the order is that of erasure.
-void Relier(const Lot & lot) {
+void Renommages::Relier(const Lot & lot) {
     const auto est_la = [](const Ligne_index * ligne) { return ligne->presence == Presence::la; };
     const auto la     = std::find_if(lot.begin(), lot.end(), est_la);
     if (la == lot.end() || std::find_if(la + 1, lot.end(), est_la) != lot.end()) return;
     const std::wstring ici      = (*la)->fiche->repertoire;
     Ligne_index *      premiere = *la;
     for (Ligne_index * ligne : lot) {
-        if (Comparer_sans_casse(ligne->fiche->repertoire, ici) == 0 || !N_est_plus_la(*ligne)) continue;
-        ligne->presence = Presence::absente;
-        ligne->suivie   = ici;
-        premiere        = std::min(premiere, ligne);
+        const std::optional<Paire> paire = Seul_ecart(ligne->fiche->repertoire, ici);
+        if (!Possible(paire) || !N_est_plus_la(*ligne)) continue;
+        reliees_.insert(*paire);
+        Suivre(*ligne, ici);
+        premiere = std::min(premiere, ligne);
     }
     if (premiere != *la && (*la)->Entiere()) std::swap(*premiere, **la);
+}
+
+// A record that had no file any more before its directory took another name has none under the former name either.
+void Renommages::Relier_sans_fichier() {
+    for (const auto & [ancien, nouveau] : reliees_) {
+        // Some of the files under each name: neither is the former one.
+        if (reliees_.count({nouveau, ancien}) != 0) continue;
+        for (Ligne_index & ligne : lignes_) {
+            if (!ligne.fiche || !ligne.suivie.empty()) continue;
+            if (!Sans_casse(ligne.fiche->repertoire).starts_with(ancien) || !N_est_plus_la(ligne)) continue;
+            // What it was in may be gone with it.
+            Suivre(ligne, nouveau);
+        }
+    }
+}
+
+// Neither name of a directory can be looked for: what it holds is listed once.
+void Lister_une_fois(const Lot & lot) {
+    Lot listees;
+    std::for_each(lot.rbegin(), lot.rend(), [&](Ligne_index * ligne) {
+        if (ligne->presence != Presence::inaccessible) return;
+        const bool double_nom = std::any_of(listees.begin(), listees.end(), [&](const Ligne_index * listee) {
+            return Seul_ecart(ligne->fiche->repertoire, listee->fiche->repertoire).has_value();
+        });
+        if (double_nom)
+            ligne->presence = Presence::autre_support;
+        else
+            listees.push_back(ligne);
+    });
 }
 
 void Relier_renommees(std::vector<Ligne_index> & lignes) {
@@ -152,8 +262,16 @@ void Relier_renommees(std::vector<Ligne_index> & lignes) {
     std::unordered_map<std::wstring, Lot> lots;
     for (Ligne_index & ligne : lignes)
         if (ligne.fiche) lots[Marque(*ligne.fiche)].push_back(&ligne);
+    Renommages renommages(lignes);
     for (const auto & [marque, lot] : lots)
-        if (lot.size() > 1) Relier(lot);
+        if (lot.size() > 1) renommages.Relier(lot);
+    renommages.Relier_sans_fichier();
+    for (const auto & [marque, lot] : lots) {
+        const bool aucune = std::none_of(lot.begin(), lot.end(), [](const Ligne_index * ligne) {
+            return ligne->presence == Presence::la;
+        });
+        if (aucune) Lister_une_fois(lot);
+    }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -37,21 +38,30 @@ void Refuser_nom_pris(const std::wstring & ancien, const std::wstring & nouveau)
 
 }  // namespace
 
+// The records without a file follow too: it is by all of its records that a directory under another name is known.
 std::vector<Fiche> Magasin::Fiches_suivies(const std::wstring & ancien, const std::wstring & nouveau) const {
-    std::vector<Fiche>                                  suivies;
-    std::map<std::wstring, std::optional<std::wstring>> connus;
+    std::vector<Fiche>                                                   suivies;
+    bool                                                                 listees = false;
+    std::map<std::pair<std::wstring, bool>, std::optional<std::wstring>> connus;
     for (const Ligne_index & ligne : index_.Lignes()) {
-        const bool present = ligne.presence == Presence::la;
-        if (!ligne.fiche || (!present && ligne.presence != Presence::inaccessible)) continue;
+        if (!ligne.fiche) continue;
+        const bool inaccessible = ligne.presence == Presence::inaccessible;
+        // A drive that may not answer is not asked.
+        const bool           present    = !inaccessible && ligne.presence != Presence::autre_support;
         const std::wstring & repertoire = ligne.fiche->repertoire;
-        auto                 connu      = connus.find(repertoire);
+        auto                 connu      = connus.find({repertoire, present});
         if (connu == connus.end())
-            connu = connus.emplace(repertoire, Apres_renommage(repertoire, ancien, nouveau, present)).first;
+            connu =
+                connus
+                    .try_emplace({repertoire, present}, Apres_renommage(repertoire, ancien, nouveau, present))
+                    .first;
         if (!connu->second) continue;
+        listees = listees || inaccessible || ligne.presence == Presence::la;
         suivies.push_back(*ligne.fiche);
         suivies.back().repertoire = *connu->second;
         Verifier(suivies.back());
     }
+    if (!listees) suivies.clear();
     return suivies;
 }
 
@@ -60,7 +70,8 @@ void Magasin::Suivre_repertoire(const std::wstring & ancien, const std::wstring 
     // Records do not tell one case from another.
     if (Comparer_sans_casse(ancien, nouveau) == 0) return renommer();
     const Exclusivite tour(tour_de_la_corbeille, attente_du_tour, entretemps_);
-    Accorder();
+    if (!index_.Synchroniser()) index_.Constater();
+    Actualiser();
     const std::vector<Fiche> suivies = Fiches_suivies(ancien, nouveau);
     if (suivies.empty()) return renommer();
     Refuser_nom_pris(ancien, nouveau);

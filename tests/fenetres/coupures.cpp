@@ -36,7 +36,8 @@ protected:
             const Mine mine(programme->Poignee(), rang);
             commander();
             EXPECT_TRUE(Attendre([&] { return !programme->Vivant() || finie(); }, 20000)) << rang;
-            if (programme->Vivant()) {
+            // The windows of a program that dies go before it does.
+            if (!programme->Attendre_fin(200)) {
                 EXPECT_LT(mine.Appels(), rang);
                 return rang - 1;
             }
@@ -77,7 +78,12 @@ protected:
                           L"Voulez-vous EFFACER sélectivement ou globalement les fichiers sélectionnés ?",
                           {L"&SELECTIF", L"&GLOBAL", L"&ANNULER"}, 2);
     }
-    bool Source_vide() const { return Nombre_entrees(Controle(L"Fichier_srce")) == 0 && !Sablier(); }
+    // The program may die at any moment of this: a window that is gone is no failure.
+    bool Est_vide(const wchar_t * fenetre, const wchar_t * liste) const {
+        const HWND controle = Controle_nomme(Fenetre(fenetre), liste);
+        return controle != nullptr && Nombre_entrees(controle) == 0 && !Sablier();
+    }
+    bool Source_vide() const { return Est_vide(L"Gestion_Fichiers", L"Fichier_srce"); }
 
     Arbre                  avant;
     static inline unsigned morts_ = 0, pertes_ = 0;
@@ -98,9 +104,7 @@ TEST_F(Coupures, recuperer_laisse_chaque_fichier_a_sa_place_ou_dans_la_liste) {
         const auto fille = Rouvrir_corbeille();
         Choisir_tous(fille, avant.size());
     };
-    const auto finie = [&] {
-        return Nombre_entrees(Controle(L"Corbeille", L"Fichier_effacé")) == 0 && !Sablier();
-    };
+    const auto     finie = [&] { return Est_vide(L"Corbeille", L"Fichier_effacé"); };
     const unsigned morts = Tuer_a_chaque_appel(
         preparer, [&] { Fenetre_corbeille().Cliquer(L"Récupérer"); }, finie,
         [&] { Verifier_et_recuperer(); });

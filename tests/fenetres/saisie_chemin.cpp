@@ -406,6 +406,7 @@ TEST_F(Saisie_chemin_longue, le_parcours_montre_ou_il_en_est_et_s_arrete_au_bout
     }
     // What was walked so far is not the whole disk: the next lookup walks it again, to its end.
     Saisir(L"srce", L"c10\\d2000");
+    EXPECT_TRUE(Pilote::Attendre([&] { return !Boite_absente(); }, 60000));
     Attendre_boite(gestionnaire,
                    Capitales(source) + L"\\GRAND\\C10\\D2000\r\rEst-ce le chemin que vous désirez ?",
                    question, IDCANCEL);

@@ -116,4 +116,70 @@ ESSAI_UNITE(D, un_second_disque_est_fixe) { EXPECT_TRUE(Support_fixe(L"d:\\")); 
 ESSAI_UNITE(A, une_disquette_n_est_pas_fixe) { EXPECT_FALSE(Support_fixe(L"a:\\")); }
 ESSAI_UNITE(E, un_disque_compact_n_est_pas_fixe) { EXPECT_FALSE(Support_fixe(L"e:\\")); }
 
+// A program that had it open went on writing.
+TEST_F(Magasins, un_fichier_depose_qui_a_grandi_reste_le_notre) {
+    Faire_et_deposer(L"a");
+    Regler_attributs(Code(0), archive);
+    Poser(Code(0), "contenu plus long");
+    Regler_attributs(Code(0), archive | FILE_ATTRIBUTE_READONLY);
+    Rouvrir();
+    ASSERT_EQ(1u, magasin.Fiches().size());
+    Tout_rendre();
+    EXPECT_EQ("contenu plus long", Contenu(Chemin(L"a")));
+    EXPECT_EQ("", Contenu(Index()));
+}
+
+TEST_F(Magasins, detruire_garde_l_index_qui_nomme_le_fichier_d_un_autre) {
+    Fichier(L"crb44000.001", "d'un autre index");
+    const std::string ligne = Ligne("crb44000.001", "x.txt") + "\r\n";
+    Rouvrir_sur(ligne);
+    Faire_et_deposer(L"a");
+    EXPECT_TRUE(magasin.Detruire(Toujours));
+    EXPECT_FALSE(magasin.Ouvert());
+    EXPECT_EQ(ligne, Contenu(Index()));
+    EXPECT_EQ("d'un autre index", Contenu(Chemin(L"crb44000.001")));
+}
+
+// Another program stores while ours destroys: its record is not among those that were read.
+TEST_F(Magasins, detruire_garde_ce_qu_un_autre_a_depose_entre_temps) {
+    Faire_et_deposer(L"a");
+    Faire_et_deposer(L"b");
+    const std::string ligne = Ligne("crb44000.002", "c") + "\r\n";
+    EXPECT_TRUE(magasin.Detruire([&] {
+        const std::string lu = Contenu(Index());
+        Regler_attributs(Fichier(L"crb44000.002"), archive | FILE_ATTRIBUTE_READONLY);
+        const Poignee_fichier autre(CreateFileW(Index().c_str(), FILE_APPEND_DATA,
+                                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                                nullptr, OPEN_EXISTING, 0, nullptr));
+        DWORD                 ecrits = 0;
+        EXPECT_TRUE(
+            WriteFile(autre.Valeur(), ligne.data(), static_cast<DWORD>(ligne.size()), &ecrits, nullptr));
+        EXPECT_EQ(lu + ligne, Contenu(Index()));
+        return true;
+    }));
+    EXPECT_EQ(ligne, Contenu(Index()));
+    Rouvrir();
+    Tout_rendre();
+    EXPECT_EQ("contenu", Contenu(Chemin(L"c")));
+}
+
+// As many bytes in the same file: only they tell.
+TEST_F(Magasins, un_index_change_sans_changer_de_longueur_est_relu) {
+    Fichier(L"crb44000.001");
+    Rouvrir_sur(Ligne("crb44000.001", "x.txt") + "\r\n");
+    ASSERT_EQ(L"x.txt", magasin.Fiches().at(0).nom);
+    const std::size_t ou = Contenu(Index()).find("x.txt");
+    {
+        const Poignee_fichier autre(CreateFileW(Index().c_str(), GENERIC_WRITE,
+                                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                                nullptr, OPEN_EXISTING, 0, nullptr));
+        SetFilePointer(autre.Valeur(), static_cast<LONG>(ou), nullptr, FILE_BEGIN);
+        DWORD ecrits = 0;
+        ASSERT_TRUE(WriteFile(autre.Valeur(), "y", 1, &ecrits, nullptr));
+    }
+    Faire_et_deposer(L"a");
+    ASSERT_EQ(2u, magasin.Fiches().size());
+    EXPECT_EQ(L"y.txt", magasin.Fiches()[0].nom);
+}
+
 }  // namespace

@@ -160,3 +160,59 @@ TEST_F(Suivi, deux_fichiers_pareils_de_deux_repertoires_restent_deux) {
     EXPECT_EQ(Repertoires(), (Noms_lus{L"haut\\", L"haut bis\\", L"parti\\"}));
     EXPECT_EQ(Contenu(Chemin(L"index\\KORVANE.CRB")), lignes);
 }
+
+// What was deleted since the index was read is not followed as if it were there, nor listed under a directory that is gone.
+TEST_F(Suivi, une_fiche_qui_a_perdu_son_fichier_ne_suit_pas_son_repertoire) {
+    const std::wstring code = magasin.Fiches().at(2).Chemin_code();
+    Regler_attributs(code, FILE_ATTRIBUTE_NORMAL);
+    ASSERT_TRUE(DeleteFileW(code.c_str()));
+    Renommer(L"haut", L"neuf");
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"haut bis\\", L"neuf\\"}));
+    EXPECT_EQ(Lignes(), 2u);
+}
+
+// A directory that is gone and another that has one of its records, not all, are two directories.
+TEST_F(Suivi, un_repertoire_qui_n_a_pas_toutes_les_fiches_d_un_autre_n_en_est_pas_le_nouveau_nom) {
+    magasin.Fermer();
+    std::string racine;
+    for (const wchar_t lettre : Racine()) racine += static_cast<char>(lettre);
+    const std::string lignes = "crb45000.001 00000007 x.txt " + racine + "\\parti\\\r\n" +
+                               "crb45000.002 00000007 y.txt " + racine + "\\parti\\\r\n" +
+                               "crb45000.001 00000007 x.txt " + racine + "\\haut\\\r\n";
+    Regler_attributs(Chemin(L"index\\KORVANE.CRB"), FILE_ATTRIBUTE_NORMAL);
+    Poser(Chemin(L"index\\KORVANE.CRB"), lignes);
+    Fichier(L"haut\\crb45000.001");
+    magasin.Ouvrir({Chemin(L"index")});
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"parti\\", L"parti\\", L"haut\\"}));
+    EXPECT_EQ(Contenu(Chemin(L"index\\KORVANE.CRB")), lignes);
+}
+
+// Both names of a directory of a drive that does not answer: its files are listed once, and both lines kept.
+TEST_F(Suivi, deux_noms_d_un_repertoire_d_une_unite_absente_ne_se_listent_qu_une_fois) {
+    magasin.Fermer();
+    const std::string lignes = "crb45000.001 00000007 x.txt q:\\ancien\\bas\\\r\n"
+                               "crb45000.001 00000007 x.txt q:\\nouveau\\bas\\\r\n"
+                               "crb45000.001 00000007 x.txt q:\\ailleurs\\\r\n";
+    Regler_attributs(Chemin(L"index\\KORVANE.CRB"), FILE_ATTRIBUTE_NORMAL);
+    Poser(Chemin(L"index\\KORVANE.CRB"), lignes);
+    magasin.Ouvrir({Chemin(L"index")});
+    ASSERT_EQ(magasin.Fiches().size(), 2u);
+    EXPECT_EQ(magasin.Total(), 14u);
+    EXPECT_EQ(Contenu(Chemin(L"index\\KORVANE.CRB")), lignes);
+}
+
+// The rewrite that follows the renaming fails; the next one knows the former line of what was given back in between.
+TEST_F(Suivi, un_fichier_rendu_apres_une_reecriture_manquee_ne_revient_pas_sous_l_ancien_nom) {
+    const std::wstring index = Chemin(L"index\\KORVANE.NEW");
+    magasin.Suivre_repertoire(Chemin(L"haut bis"), Chemin(L"zz"), [&] {
+        Renommer_fichier(Chemin(L"haut bis"), Chemin(L"zz"));
+        Repertoire(L"index\\KORVANE.NEW");  // in the way of the rewrite
+    });
+    EXPECT_EQ(Lignes(), 4u);
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"zz\\", L"haut\\", L"haut\\bas\\"}));
+    ASSERT_TRUE(RemoveDirectoryW(index.c_str()));
+    magasin.Restaurer({0}, Toujours);
+    EXPECT_TRUE(Fichier_existe(Chemin(L"zz\\a.txt")));
+    EXPECT_EQ(Repertoires(), (Noms_lus{L"haut\\", L"haut\\bas\\"}));
+    EXPECT_EQ(Lignes(), 2u);
+}
