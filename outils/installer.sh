@@ -29,7 +29,8 @@ if ! command -v dpkg-query >/dev/null; then
     exit 0
 fi
 
-installes=$(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "${paquets[@]}" 2>/dev/null | sed -n 's/^ii *//p')
+# dpkg-query fails when it knows nothing of one of them, which is no fault here.
+installes=$({ dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "${paquets[@]}" 2>/dev/null || true; } | sed -n 's/^ii *//p')
 manquants=()
 for paquet in "${paquets[@]}"; do
     grep -qxF -- "$paquet" <<<"$installes" || manquants+=("$paquet")
