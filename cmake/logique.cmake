@@ -19,7 +19,8 @@ set(KORVANE_SOURCES_LOGIQUE
     src/recycle/tirage.cpp
     src/search/arbre.cpp
     src/search/modeles.cpp
-    src/search/nom_repertoire.cpp)
+    src/search/nom_repertoire.cpp
+    src/texte/codage.cpp)
 list(TRANSFORM KORVANE_SOURCES_LOGIQUE PREPEND "${CMAKE_SOURCE_DIR}/")
 
 add_library(logique STATIC ${KORVANE_SOURCES_LOGIQUE})

@@ -34,6 +34,8 @@ struct Variables {
     bool Arborescence_perimee = false;
     bool Destination_perimee  = false;
 
+    unsigned Tache = 0;  // identifier of the last program started
+
     // Help.
     bool         Aide_active = false;
     std::wstring Texte_aide;

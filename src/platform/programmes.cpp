@@ -1,0 +1,42 @@
+#include "platform/programmes.h"
+
+#include "platform/erreur.h"
+#include "platform/fichiers.h"
+#include "platform/textes.h"
+#include "platform/windows.h"
+
+namespace {
+constexpr unsigned dernier_echec = 31;  // WinExec's answers up to it are error codes
+
+[[noreturn]] void Refuser(unsigned code, const std::wstring & ligne) {
+    // 0 stands for a lack of memory, 11 for a file that is no program.
+    if (code == 0) Lever_code(ERROR_NOT_ENOUGH_MEMORY, Acte::ouvrir, ligne);
+    if (code == ERROR_BAD_FORMAT) throw Erreur_execution(Numero::appel_incorrect, code, ligne);
+    Lever_code(code, Acte::ouvrir, ligne);
+}
+}  // namespace
+
+unsigned Demarrer(const std::wstring & ligne) {
+    if (!Tient_en_ansi(ligne)) throw Erreur_execution(Numero::nom_incorrect, 0, ligne);
+    const unsigned reponse = WinExec(En_ansi(ligne).c_str(), SW_SHOWNORMAL);
+    if (reponse <= dernier_echec) Refuser(reponse, ligne);
+    return reponse;
+}
+
+std::wstring Chemin_transmissible(const std::wstring & chemin) {
+    if (Tient_en_ansi(chemin)) return chemin;
+    std::wstring court(32768, L'\0');
+    court.resize(GetShortPathNameW(chemin.c_str(), court.data(), static_cast<DWORD>(court.size())));
+    if (court.empty() || !Tient_en_ansi(court)) throw Erreur_execution(Numero::nom_incorrect, 0, chemin);
+    return court;
+}
+
+Repertoire_de_travail::Repertoire_de_travail(const std::wstring & repertoire) {
+    if (repertoire.empty()) return;
+    avant_ = Repertoire_courant();
+    Changer_repertoire(repertoire);
+}
+
+Repertoire_de_travail::~Repertoire_de_travail() {
+    if (!avant_.empty()) Tenter([this] { Changer_repertoire(avant_); });
+}
