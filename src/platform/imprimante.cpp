@@ -51,10 +51,9 @@ Feuille Feuille_de(HDC contexte) {
             lire(HORZRES),       lire(VERTRES),        lire(LOGPIXELSX),      lire(LOGPIXELSY)};
 }
 
-HFONT Faire_police(const Corps & corps) {
-    return CreateFontW(-corps.hauteur, corps.largeur, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                       OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, FIXED_PITCH | FF_MODERN,
-                       L"Courier New");
+HFONT Faire_police(int corps) {
+    return CreateFontW(-corps, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_TT_PRECIS,
+                       CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, FIXED_PITCH | FF_MODERN, L"Courier New");
 }
 }  // namespace
 
