@@ -26,10 +26,11 @@ struct Regle_police {
 }
 
 std::wstring Imprimante_par_defaut() {
+    // The code that goes with it is that of a missing file.
     DWORD longueur = 0;
     GetDefaultPrinterW(nullptr, &longueur);
     std::wstring nom(longueur, L'\0');
-    if (longueur == 0 || !GetDefaultPrinterW(nom.data(), &longueur)) Lever(ERROR_PRINTER_NOT_FOUND);
+    if (longueur == 0 || !GetDefaultPrinterW(nom.data(), &longueur)) Lever(ERROR_INVALID_PRINTER_NAME);
     nom.resize(longueur - 1);
     return nom;
 }
