@@ -21,8 +21,10 @@ struct Regle_police {
     static void Fermer(Type police) noexcept { DeleteObject(police); }
 };
 
+// What the system does not say, or says of its own handle, tells the user nothing.
 [[noreturn]] void Lever(DWORD code) {
-    throw Erreur_execution(Numero::entree_sortie, code != 0 ? code : DWORD{ERROR_GEN_FAILURE}, {});
+    const bool muet = code == 0 || code == ERROR_INVALID_HANDLE;
+    throw Erreur_execution(Numero::entree_sortie, muet ? DWORD{ERROR_WRITE_FAULT} : code, {});
 }
 
 std::wstring Imprimante_par_defaut() {
