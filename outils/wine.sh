@@ -6,8 +6,6 @@
 
 export LC_ALL=C.UTF-8 WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-"mscoree,mshtml=;winemenubuilder.exe=d"}
-# A print server of the machine must not take part: printers are those that were made in the prefix.
-export CUPS_SERVER=/nonexistent
 
 # lancer_wine SECONDS OUTPUT PROGRAM ARGUMENTS... : the program's exit status, 124 when it took too long.
 lancer_wine() {

@@ -65,9 +65,9 @@ struct Imprimante::Etat {
     explicit Etat(const std::wstring & titre);
 
     void Imprimer_page();
-    void Ajuster_police();
+    bool Ajuster_police();
     void Choisir_police(std::size_t colonnes);
-    void Ecrire(const std::wstring & ligne, int y) const;
+    void Ecrire(const std::wstring & ligne, int y, bool couper) const;
     bool Tient() const;
 
     Proprietaire<Regle_police>   police;  // outlives the context that it is selected into
@@ -105,21 +105,22 @@ bool Imprimante::Etat::Tient() const {
     });
 }
 
-void Imprimante::Etat::Ajuster_police() {
+// False when even the smallest font passes the margin.
+bool Imprimante::Etat::Ajuster_police() {
     std::size_t longueur = 0;
     for (const std::wstring & ligne : lignes) longueur = std::max(longueur, ligne.size());
     std::size_t colonnes = Colonnes_pour(page, longueur);
-    Choisir_police(colonnes);
-    while (colonnes < colonnes_maximales && !Tient()) {
-        colonnes = Colonnes_pour(page, colonnes + 1);
+    for (;; colonnes = Colonnes_pour(page, colonnes + 1)) {
         Choisir_police(colonnes);
+        if (Tient()) return true;
+        if (colonnes == colonnes_maximales) return false;
     }
 }
 
-void Imprimante::Etat::Ecrire(const std::wstring & ligne, int y) const {
+void Imprimante::Etat::Ecrire(const std::wstring & ligne, int y, bool couper) const {
     if (ligne.empty()) return;
     const RECT place{page.gauche, y, page.gauche + page.largeur, y + page.interligne};
-    if (!ExtTextOutW(contexte.Valeur(), page.gauche, y, ETO_CLIPPED, &place, ligne.c_str(),
+    if (!ExtTextOutW(contexte.Valeur(), page.gauche, y, couper ? ETO_CLIPPED : 0U, &place, ligne.c_str(),
                      static_cast<UINT>(ligne.size()), nullptr))
         Lever(GetLastError());
 }
@@ -128,11 +129,11 @@ void Imprimante::Etat::Imprimer_page() {
     if (lignes.empty()) return;
     SetLastError(0);
     if (StartPage(contexte.Valeur()) <= 0) Lever(GetLastError());
-    Ajuster_police();
+    const bool couper = !Ajuster_police();
     SetBkMode(contexte.Valeur(), TRANSPARENT);
     int y = page.haut;
     for (const std::wstring & ligne : lignes) {
-        Ecrire(ligne, y);
+        Ecrire(ligne, y, couper);
         y += page.interligne;
     }
     lignes.clear();
