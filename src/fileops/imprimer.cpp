@@ -14,9 +14,6 @@
 #include "toolkit/boites.h"
 
 namespace {
-// Counted for the end of each line.
-constexpr std::uint64_t octets_fin_de_ligne = 2;
-
 enum class Suite { continuer, terminer };
 
 void Imprimer_ligne(Imprimante & imprimante, const std::wstring & ligne) {
@@ -35,7 +32,7 @@ void Imprimer_lignes(Gestion_Fichiers & f, Lecture & lecture, Imprimante & impri
         if (avancee == Lecture::Avancee::fin) return;
         if (avancee == Lecture::Avancee::ligne) {
             Imprimer_ligne(imprimante, lecture.Ligne());
-            Avancer_jauge(f, avance, lecture.Octets() + octets_fin_de_ligne);
+            Avancer_jauge(f, avance, lecture.Octets());
         }
         Application::Laisser_passer();
     }

@@ -27,9 +27,9 @@ public:
     std::uint64_t Longueur() const { return longueur_; }  // bytes, when it was opened
     // Goes on by one line, at the most by one read of 64 KB. Errors 57, 70, 68, 71.
     Avancee Avancer();
-    // Of the line that Avancer came to: its beginning, and its length in bytes without its end.
+    // Of the line that Avancer came to: its beginning, and its length in bytes, its end counted as two characters.
     std::wstring  Ligne() const { return Decoder(coupe_.Octets(), codage_); }
-    std::uint64_t Octets() const { return coupe_.Longueur(); }
+    std::uint64_t Octets() const { return coupe_.Longueur() + 2 * coupe_.Unite(); }
 
 private:
     bool Remplir();  // false at the end

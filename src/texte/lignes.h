@@ -21,6 +21,7 @@ public:
     bool             Entamee() const { return entamee_; }    // the text that ends here ends with a line
     std::string_view Octets() const { return octets_; }      // the line's first bytes
     std::uint64_t    Longueur() const { return longueur_; }  // of the whole line in bytes, without its end
+    std::size_t      Unite() const { return unite_; }        // bytes of the smallest character
     void             Suivante();                             // the next bytes belong to the next line
 
 private:
@@ -29,7 +30,7 @@ private:
     std::string   octets_;
     std::string   partielle_;  // first byte of a character of two
     std::size_t   retenus_;
-    std::size_t   unite_;  // bytes of the smallest character
+    std::size_t   unite_;
     bool          grand_;  // the high byte comes first
     std::uint64_t longueur_     = 0;
     bool          entamee_      = false;

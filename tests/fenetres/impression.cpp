@@ -95,6 +95,36 @@ TEST_F(Impressions, non_passe_au_fichier_suivant_et_annuler_finit_la_commande) {
     EXPECT_EQ(imprimante.Nombre(), 1u);
 }
 
+// The question about the second file holds the window as the first file left it.
+TEST_F(Impressions, la_jauge_compte_chaque_ligne_et_deux_caracteres_de_fin) {
+    struct Cas {
+        const wchar_t * nom;
+        std::string     octets;
+        const wchar_t * jauge;
+    };
+    const Cas cas[] = {{L"a.txt", "abc\r\n\r\n", L"100%"},
+                       {L"b.txt", "a\nb\nc", L"100%"},
+                       {L"c.txt", std::string("\xFF\xFE\x61\0\r\0\n\0", 8), L"75%"}};
+    Regler(L"Options", L"Confirme", L"Oui");
+    for (const Cas & c : cas) Ecrire(c.nom, c.octets);
+    Ecrire(L"z.txt", "texte");
+    Lancer_dans_les_dossiers();
+    for (const Cas & c : cas) {
+        Choisir({c.nom, L"z.txt"});
+        Cliquer(L"Imprimer");
+        Attendre_imprimer(c.nom, oui_non_annuler, IDYES);
+        ASSERT_TRUE(Attendre([this] { return !Boite_absente(); }));
+        EXPECT_EQ(Utf8(Lire(L"En_cours")), Utf8(L" IMPRIME le fichier " + Capitales(c.nom) + L" "));
+        for (const wchar_t * montre : {L"Jauge", L"Ligne_jauge(0)", L"Arret", L"En_cours"}) {
+            EXPECT_TRUE(Se_voit(montre)) << Utf8(montre);
+        }
+        EXPECT_EQ(Utf8(Lire(L"Jauge")), Utf8(c.jauge)) << Utf8(c.nom);
+        Attendre_imprimer(L"z.txt", oui_non_annuler, IDNO);
+        Attendre_fin_commande();
+    }
+    Verifier_repos(L"Imprimer");
+}
+
 TEST_F(Impressions, sans_fichier_choisi_un_avis_le_dit_et_rien_ne_s_imprime) {
     Ecrire(L"a.txt", "texte");
     Lancer_dans_les_dossiers();

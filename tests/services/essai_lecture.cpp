@@ -48,9 +48,18 @@ TEST_F(Lectures, une_ligne_plus_longue_que_les_blocs_se_lit_par_etapes_et_dit_sa
     int blocs = 0;
     while (lecture.Avancer() == Avancee::bloc) ++blocs;
     EXPECT_EQ(1000000 / 65536, blocs);
-    EXPECT_EQ(1000000u, lecture.Octets());
+    EXPECT_EQ(1000002u, lecture.Octets());
     EXPECT_EQ(std::wstring(640, L'x'), lecture.Ligne());
     EXPECT_EQ((Textes{L"fin"}), Lignes(lecture));
+}
+
+TEST_F(Lectures, la_fin_d_une_ligne_compte_pour_deux_caracteres) {
+    Lecture octets(Fichier(L"octets", "abc\n"), 160);
+    ASSERT_EQ(Avancee::ligne, octets.Avancer());
+    EXPECT_EQ(5u, octets.Octets());
+    Lecture mots(Fichier(L"mots", std::string("\xFF\xFE\x61\0\r\0\n\0", 8)), 160);
+    ASSERT_EQ(Avancee::ligne, mots.Avancer());
+    EXPECT_EQ(6u, mots.Octets());
 }
 
 TEST_F(Lectures, ce_qui_s_ajoute_apres_l_ouverture_n_est_pas_lu_et_ce_qui_part_ne_manque_pas) {
