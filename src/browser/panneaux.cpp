@@ -233,7 +233,7 @@ void Fichier_srce_PathChange() {
     f.Fichier_srce.ForeColor(couleur_texte_fenetre);
 }
 
-void Brancher_panneaux(Gestion_Fichiers & f) {
+void Brancher_panneaux(Gestion_Fichiers & f, void (*ouvrir)()) {
     f.Unité_srce.Change        = Unité_srce_Change;
     f.Unité_srce.KeyPress      = Unité_srce_KeyPress;
     f.Unité_dest.Change        = Unité_dest_Change;
@@ -244,11 +244,11 @@ void Brancher_panneaux(Gestion_Fichiers & f) {
     f.Répertoire_dest.Change   = Répertoire_dest_Change;
     f.Répertoire_dest.Click    = Répertoire_dest_Click;
     f.Répertoire_dest.KeyPress = Sur_entree(Répertoire_dest_Click);
-    f.Fichier_srce.DblClick    = Retrouver_fichier_choisi;
+    f.Fichier_srce.DblClick    = ouvrir;
     f.Fichier_srce.KeyPress    = Fichier_srce_KeyPress;
     f.Fichier_srce.MouseDown   = Fichier_srce_MouseDown;
     f.Fichier_srce.PathChange  = Fichier_srce_PathChange;
-    f.Fichier_sél.DblClick     = Retrouver_fichier_choisi;
+    f.Fichier_sél.DblClick     = ouvrir;
     f.Fichier_dest.Click       = Fichier_dest_Click;
     f.Croiser.Brancher(Croiser_Click);
 }

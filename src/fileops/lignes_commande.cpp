@@ -207,7 +207,10 @@ std::wstring Ligne_editeur(std::wstring_view editeur, std::wstring_view liste_ou
     return programme + L" " + Citer_argument(programme, liste_ou_fichier);
 }
 
-std::wstring Ligne_execution(std::wstring_view chemin, std::wstring_view parametres) {
+std::wstring Ligne_execution(std::wstring_view chemin, std::wstring_view saisie) {
+    std::wstring typees(saisie);
+    std::transform(typees.begin(), typees.end(), typees.begin(), En_blanc);
+    const std::wstring_view parametres = Ebarber(typees);
     if (parametres.empty()) return Citer_fichier(chemin);
     if (Contient(parametres, L' ') || Contient(parametres, guillemet))
         return Citer_fichier(chemin) + L" " + Citer_parametres(parametres);
