@@ -171,6 +171,8 @@ std::wstring Proteger_interprete(std::wstring_view ligne) {
     const std::wstring_view programme = ligne.substr(0, fin);
     std::wstring            protegee(programme);
     if (!Commence_cite(programme) && Contient_un(programme, signes)) protegee = Entre_guillemets(programme);
+    // A switch that is attached to a name in quotes is part of the name for some interpreters.
+    if (Commence_cite(programme) && fin < ligne.size() && !Contient(blancs, ligne[fin])) protegee += L' ';
     bool cite = false;
     for (const wchar_t caractere : ligne.substr(fin)) {
         if (caractere == guillemet) cite = !cite;
