@@ -9,14 +9,11 @@
 #include "browser/groupe_boutons.h"
 #include "fileops/lignes_commande.h"
 #include "forms/gestion_fichiers.h"
-#include "platform/chemins.h"
 #include "platform/profil.h"
 #include "platform/programmes.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
 #include "toolkit/boites.h"
-
-#include <algorithm>
 
 namespace {
 constexpr unsigned tampon_association = 4096;  // characters, terminator included
@@ -38,25 +35,28 @@ void Avertir(const std::wstring & texte) {
     Message_boite(texte, Boite::ok | Boite::arret, variables.Commande_en_cours);
 }
 
-std::wstring Sans_guillemets(std::wstring texte) {
-    std::erase(texte, L'"');
-    return texte;
-}
-
 std::wstring Programme_de(const std::wstring & extension) {
     return Programme_associe(Lire_profil({}, Section::extensions, extension, L"", tampon_association));
 }
 
-// The program that a button starts, with the document that it opens, if any.
-struct A_lancer {
-    std::wstring programme;  // empty: no program opens such documents
-    std::wstring ligne;
-};
+// Reading drops the quotes round a value that begins and ends with one, those of two different words as well: "X.EXE" "a b".
+std::wstring Valeur_ecrite(const std::wstring & caption) {
+    const std::wstring valeur    = Valeur_cle(Section::boutons, caption);
+    const std::size_t  guillemet = valeur.find(L'"');
+    const bool perdus = guillemet != std::wstring::npos && Est_executable(valeur.substr(0, guillemet));
+    return perdus ? L"\"" + valeur + L"\"" : valeur;
+}
 
-A_lancer Preparer(const Commande_bouton & commande) {
-    if (Est_executable(L"." + commande.extension)) return {commande.cible, Citer_programme(commande.cible)};
+// The line that a button starts; empty when nothing can be started, which the user has been told.
+std::wstring Ligne_de(const Commande_bouton & commande) {
+    if (Est_executable(L"." + commande.extension)) return Citer_programme(commande.cible, Programme_existe);
     const std::wstring programme = Programme_de(commande.extension);
-    return {programme, Ligne_association(programme, Sans_guillemets(commande.cible))};
+    if (programme.empty()) {
+        Avertir(Sans_association(commande.extension));
+        return {};
+    }
+    const std::wstring document = Chemin_pour(programme, commande.cible);
+    return document.empty() ? document : Ligne_association(programme, document, Programme_existe);
 }
 
 // False when the user gives none: nothing is to be started then.
@@ -70,21 +70,18 @@ bool Ajouter_parametres(std::wstring & ligne, const std::wstring & cible, const 
 }
 
 void Executer(const Gestion_Fichiers & f, const std::wstring & caption) {
-    const std::wstring valeur = Valeur_cle(Section::boutons, caption);
+    const std::wstring valeur = Valeur_ecrite(caption);
     if (valeur.empty()) return Avertir(deprogramme);
-    const Commande_bouton commande = Lire_bouton(valeur);
+    const Commande_bouton commande = Lire_bouton(valeur, Programme_existe);
     if (commande.extension.empty()) return Avertir(sans_extension);
-    A_lancer lancement = Preparer(commande);
-    if (lancement.programme.empty()) return Avertir(Sans_association(commande.extension));
-    if (!Accepter_commande(L"EXECUTER\rla commande '" + Nom_bouton(caption) + L"'")) return;
-    // An error names what could not be started.
-    variables.Fichier_courant = Nom_du_chemin(Sans_guillemets(lancement.programme));
+    std::wstring ligne = Ligne_de(commande);
+    if (ligne.empty() || !Accepter_commande(L"EXECUTER\rla commande '" + Nom_bouton(caption) + L"'")) return;
     const std::wstring repertoire =
         commande.repertoire.empty() ? f.Répertoire_srce.Path() : commande.repertoire;
     // Before the question: parameters typed for a directory that is not there would be lost.
     const Repertoire_de_travail travail(repertoire);
-    if (commande.parametres && !Ajouter_parametres(lancement.ligne, commande.cible, repertoire)) return;
-    Lancer(lancement.ligne, repertoire);
+    if (commande.parametres && !Ajouter_parametres(ligne, commande.cible, repertoire)) return;
+    Lancer(ligne, repertoire);
 }
 
 void Bouton_Click(std::size_t rang) {

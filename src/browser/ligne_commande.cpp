@@ -60,9 +60,7 @@ void Signaler_introuvable(const Gestion_Fichiers & f, const std::wstring & comma
 
 void Executer(Gestion_Fichiers & f, const std::wstring & commande) {
     Memoriser(f.Ligne_commande, commande);
-    // An error names what could not be started.
-    variables.Fichier_courant = commande;
-    const std::wstring ligne  = Ligne_saisie(commande);
+    const std::wstring ligne = Ligne_saisie(commande);
     if (!Lancer_si_present(ligne) && !Lancer_si_present(Avec_com(ligne)))
         return Signaler_introuvable(f, commande);
     // What is typed next takes the command's place, and Enter runs it again.

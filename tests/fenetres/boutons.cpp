@@ -127,8 +127,8 @@ TEST_F(Boutons_associations, un_document_est_ouvert_par_le_programme_associe_dan
     Cliquer_bouton(L"Lire");
     Attendre_lance(ouvreur + a_lire, dossier / L"Mes notes");
     Cliquer_bouton(L"Cité");
-    Attendre_parametres(L"BOUTON 'Cité'", L"\"" + (dossier / L"Mes notes\\à lire.zzd") + L"\"",
-                        dossier / L"Mes notes", L"vite");
+    Attendre_parametres(L"BOUTON 'Cité'", dossier / L"Mes notes\\à lire.zzd", dossier / L"Mes notes",
+                        L"vite");
     Attendre_lance(ouvreur + a_lire + L" vite", dossier / L"Mes notes");
     Cliquer_bouton(L"Notes");
     Attendre_lance(ouvreur + Source(L"notes.zzd"), source);
@@ -151,9 +151,11 @@ TEST_F(Boutons_associations, un_document_est_ouvert_par_le_programme_associe_dan
 TEST_F(Boutons, la_marque_fait_demander_les_parametres_et_sans_reponse_rien_n_est_lance) {
     Installer_enregistreur(outils + L"\\X.EXE");
     Installer_enregistreur(Source(L"ICI.EXE"));
-    Installer_lot(outils + L"\\lot.bat", outils + L"\\X.EXE");
+    Installer_lot(outils + L"\\lot.bat", outils + L"\\X.EXE", L"seul");
     Programmer(L"&Avec", outils + L"\\X.EXE ?");
     Programmer(L"Ici", L"ICI.EXE ?");
+    Programmer(L"Lot", outils + L"\\lot.bat ?");
+    Installer_enregistreur(outils + L"\\AUTRE.EXE");
     Lancer_sur_source();
     const std::wstring titre = L"BOUTON 'Avec'";
     const std::wstring x     = outils + L"\\X.EXE";
@@ -175,6 +177,11 @@ TEST_F(Boutons, la_marque_fait_demander_les_parametres_et_sans_reponse_rien_n_es
     Cliquer_bouton(L"Ici");
     Attendre_parametres(L"BOUTON 'Ici'", L"ICI.EXE", source, L"é");
     Attendre_lance(L"ICI.EXE é", source);
+    // What the command interpreter would take for the end of the command is a parameter like any other.
+    Cliquer_bouton(L"Lot");
+    Attendre_parametres(L"BOUTON 'Lot'", outils + L"\\lot.bat", outils, L"a&AUTRE.EXE");
+    Attendre_lance(L"\"" + outils + L"\\X.EXE\" seul", outils, etat_lot);
+    Rien_de_plus();
 }
 
 TEST_F(Boutons, une_entree_effacee_ou_sans_extension_est_signalee_et_la_suite_fonctionne) {

@@ -36,6 +36,10 @@ protected:
         Pilote::Cliquer(POINT{place.right - 8, (place.top + place.bottom) / 2});
         EXIGER(Deroulee(Controle(L"Ligne_commande")));
     }
+    std::wstring Derniere_entree() const {
+        const Textes entrees = Entrees(L"Ligne_commande");
+        return entrees.empty() ? std::wstring() : entrees.back();
+    }
     void Attendre_invite_seule() { ATTENDRE(Ligne() == invite); }
 };
 
@@ -182,6 +186,7 @@ TEST_F(Ligne_de_commande, la_trente_et_unieme_commande_chasse_la_plus_ancienne_d
         const std::wstring commande = L"X " + std::to_wstring(i);
         Saisir(commande);
         attendues.push_back(commande);
+        ATTENDRE(Derniere_entree() == commande);
         EXPECT_EQ(Entrees(L"Ligne_commande").size(), std::min<std::size_t>(attendues.size(), 30));
     }
     Attendre_lances(31);
@@ -245,10 +250,13 @@ TEST_F(Ligne_de_commande, un_lot_ne_lance_que_la_commande_tapee) {
     Installer_enregistreur(Source(L"X.EXE"));
     Installer_enregistreur(Source(L"AUTRE.EXE"));
     Installer_lot(Source(L"lot.bat"), Source(L"X.EXE"));
+    Installer_lot(Source(L"muet.bat"), Source(L"X.EXE"), L"seul");
     Lancer_sur_source();
     Ouvrir_ligne();
     Saisir(L"lot.bat a&AUTRE.EXE");
     Attendre_lance(L"\"" + Source(L"X.EXE") + L"\" \"a&AUTRE.EXE\"", source, etat_lot);
+    Saisir(L"muet.bat \"a\" & AUTRE.EXE");
+    Attendre_lance(L"\"" + Source(L"X.EXE") + L"\" seul", source, etat_lot);
     Saisir(L"lot&AUTRE.EXE");
     Attendre_introuvable(L"LOT&AUTRE.EXE");
     Rien_de_plus();

@@ -18,8 +18,9 @@ void Programmes_lances::Installer_enregistreur(const std::wstring & chemin) cons
     ASSERT_TRUE(Lier(modele, chemin) || CopyFileW(modele.c_str(), chemin.c_str(), TRUE)) << Utf8(chemin);
 }
 
-void Programmes_lances::Installer_lot(const std::wstring & chemin, const std::wstring & enregistreur) {
-    Creer_fichier(chemin, "@\"" + Utf8(enregistreur) + "\" %*\r\n");
+void Programmes_lances::Installer_lot(const std::wstring & chemin, const std::wstring & enregistreur,
+                                      const std::wstring & arguments) {
+    Creer_fichier(chemin, "@\"" + Utf8(enregistreur) + "\" " + Utf8(arguments) + "\r\n");
 }
 
 std::vector<Programmes_lances::Lance> Programmes_lances::Lire_enregistrement() const {

@@ -18,8 +18,9 @@ protected:
     ~Programmes_lances() override;
 
     void Installer_enregistreur(const std::wstring & chemin) const;  // directories on the way are made
-    // A batch file that starts the recorder under `enregistreur` with the arguments that it was given.
-    static void Installer_lot(const std::wstring & chemin, const std::wstring & enregistreur);
+    // A batch file that starts the recorder under `enregistreur`: with the arguments that it was given ("%*"), or with these.
+    static void Installer_lot(const std::wstring & chemin, const std::wstring & enregistreur,
+                              const std::wstring & arguments = L"%*");
 
     // What was started so far; `nombre` starts are waited for. More of them are a failure.
     std::vector<Lance> Attendre_lances(std::size_t nombre) const;
