@@ -254,6 +254,7 @@ TEST_F(Boutons, le_bouton_suivants_fait_defiler_seize_boutons_en_boucle_et_chacu
         Programmer(L"Bouton " + std::to_wstring(i), outils + L"\\X.EXE " + std::to_wstring(i));
     Lancer_sur_source();
     const Textes premiers = Captions();
+    EXPECT_EQ(GetWindowLongW(Controle(L"Bouton(0)"), GWL_STYLE) & BS_LEFT, 0);
     for (int pas = 0; pas < 16; ++pas) {
         Textes attendus;
         for (int i = 0; i < 7; ++i) attendus.push_back(L"Bouton " + std::to_wstring((pas * 7 + i) % 16 + 1));
@@ -286,6 +287,8 @@ TEST_F(Boutons, deux_cents_boutons_et_une_valeur_de_mille_caracteres_sont_lus) {
         Programmer(L"Élément programmé numéro " + std::to_wstring(i), i == 8 ? longue : L"X.EXE");
     Lancer_sur_source();
     Cliquer(L"Bouton_suite");
+    // Too long for its button, which shows the beginning.
+    EXPECT_NE(GetWindowLongW(Controle(L"Bouton(0)"), GWL_STYLE) & BS_LEFT, 0);
     Cliquer_bouton(L"Élément programmé numéro 8");
     Attendre_lance(longue, outils);
     for (int pas = 0; pas < 28; ++pas) Passer_aux_suivants();

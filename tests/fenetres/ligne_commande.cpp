@@ -186,7 +186,8 @@ TEST_F(Ligne_de_commande, la_trente_et_unieme_commande_chasse_la_plus_ancienne_d
         const std::wstring commande = L"X " + std::to_wstring(i);
         Saisir(commande);
         attendues.push_back(commande);
-        ATTENDRE(Derniere_entree() == commande);
+        if (!Boite_absente()) FAIL() << Lire_boite(Boite_visible(programme->Numero()));
+        EXIGER(Derniere_entree() == commande);
         EXPECT_EQ(Entrees(L"Ligne_commande").size(), std::min<std::size_t>(attendues.size(), 30));
     }
     Attendre_lances(31);
