@@ -4,6 +4,8 @@
 #include "app/dialogue.h"
 #include "app/fenetre_principale.h"
 #include "app/fenetres.h"
+#include "browser/boutons.h"
+#include "browser/ligne_commande.h"
 #include "browser/mode.h"
 #include "browser/motif.h"
 #include "browser/panneaux.h"
@@ -30,6 +32,8 @@ void Brancher(Gestion_Fichiers & f, Dialogue & d) {
     Brancher_motif(f);
     Brancher_selection(f);
     Brancher_saisie_chemin(f);
+    Brancher_ligne_commande(f);
+    Brancher_boutons(f);
     Brancher_commandes(f);
     Brancher_infos(f);
     Brancher_corbeille(f);
