@@ -16,11 +16,10 @@ std::wstring Nom_a_editer(const Fichier_choisi & fichier) {
 }
 
 void Editer_un_par_un(const Gestion_Fichiers & f, const std::wstring & editeur) {
-    const std::wstring programme = Citer_programme(editeur, Programme_existe);
-    Parcours           p(f);
+    Parcours p(f);
     while (p.Suivant()) {
         if (!Accepter_fichier(f, p.Courant().repertoire)) return;
-        const std::wstring nom = Chemin_pour(programme, Nom_a_editer(p.Courant()));
+        const std::wstring nom = Chemin_pour(editeur, Nom_a_editer(p.Courant()));
         if (nom.empty()) return;
         Lancer(Ligne_editeur(editeur, nom, Programme_existe));
         Application::Laisser_passer();

@@ -24,7 +24,7 @@ void Executer(const Gestion_Fichiers & f) {
     Parcours p(f);
     if (!p.Suivant() || !Accepter_fichier(f, p.Courant().repertoire)) return;
     if (!Est_executable(p.Courant().nom)) return Signaler_non_executable();
-    const std::wstring chemin = Chemin_pour(variables.Chemin_source, variables.Chemin_source);
+    const std::wstring chemin = Chemin_a_lancer(variables.Chemin_source);
     if (chemin.empty()) return;
     const std::wstring invite = Question_parametres(Majuscules(variables.Fichier_courant), Source_montree(f));
     // A blank stands for no parameter: an empty answer is that of a prompt given up.

@@ -158,11 +158,9 @@ std::wstring Citer_argument(std::wstring_view programme, std::wstring_view chemi
     return cite ? Entre_guillemets(chemin) : Citer_fichier(chemin);
 }
 
-bool Serait_developpe(std::wstring_view programme, std::wstring_view chemin) {
+bool Serait_developpe(std::wstring_view ligne) {
     // A variable stands between two of them.
-    return Lance_interprete(programme) && std::count(programme.begin(), programme.end(), L'%') +
-                                                  std::count(chemin.begin(), chemin.end(), L'%') >
-                                              1;
+    return Lance_interprete(ligne) && std::count(ligne.begin(), ligne.end(), L'%') > 1;
 }
 
 std::wstring Proteger_interprete(std::wstring_view ligne) {

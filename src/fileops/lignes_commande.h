@@ -32,8 +32,8 @@ bool Lance_interprete(std::wstring_view ligne);
 // A file's path for that program. In a batch file it is quoted as soon as the interpreter could cut it or act on it, there and
 // in the commands that the batch file makes of it.
 std::wstring Citer_argument(std::wstring_view programme, std::wstring_view chemin);
-// True when the interpreter may take part of these names for a variable and put another text in its place; quotes do not help.
-bool Serait_developpe(std::wstring_view programme, std::wstring_view chemin);
+// True when the interpreter may take part of the line for a variable and put another text in its place; quotes do not help.
+bool Serait_developpe(std::wstring_view ligne);
 // What would end the command, or cut the program's name, is escaped or quoted; "%" keeps its meaning. For a line that starts a
 // batch file, once.
 std::wstring Proteger_interprete(std::wstring_view ligne);

@@ -31,8 +31,7 @@ std::wstring Programme_pour(const std::wstring & nom) {
 
 void Lancer_associe(const Gestion_Fichiers & f, const std::wstring & programme) {
     Changer_repertoire(f.Répertoire_srce.Path());
-    const std::wstring chemin =
-        Chemin_pour(Citer_programme(programme, Programme_existe), variables.Chemin_source);
+    const std::wstring chemin = Chemin_pour(programme, variables.Chemin_source);
     if (!chemin.empty()) Lancer(Ligne_association(programme, chemin, Programme_existe));
 }
 

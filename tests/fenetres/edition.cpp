@@ -87,6 +87,24 @@ TEST_F(Edition, un_nom_hors_de_la_page_de_codes_passe_sous_son_nom_court) {
     EXPECT_EQ(Lignes(1), Textes{L"NOTEPAD.EXE " + std::wstring(court).substr(source.size() + 1)});
 }
 
+TEST_F(Edition, dans_un_repertoire_trop_profond_pour_etre_courant_l_editeur_recoit_le_bon_fichier) {
+    std::wstring profond = source;
+    for (int i = 0; i < 3; ++i) profond += L"\\" + std::wstring(90, static_cast<wchar_t>(L'a' + i));
+    Creer_fichier(profond + L"\\a.txt", "celui-ci");
+    Creer_source(L"a.txt", 10);
+    Lancer_dans_les_dossiers();
+    Ouvrir(L"srce", profond);
+    for (const wchar_t * bouton : {L"Editer", L"Visualiser"}) {
+        Commander(bouton, {L"a.txt"});
+        Verifier_repos(bouton);
+    }
+    for (const Lance & lance : Attendre_lances(2)) {
+        const std::wstring chemin = lance.ligne.substr(lance.ligne.find(L"C:\\"));
+        EXPECT_LT(chemin.size(), 260u);
+        EXPECT_EQ(Lire_fichier(chemin), "celui-ci");
+    }
+}
+
 TEST_F(Edition, un_editeur_fichier_de_commandes_n_en_lance_jamais_deux) {
     Regler(L"Options", L"Editeur", dossier / L"mes outils\\ed.bat");
     Creer_fichier(dossier / L"mes outils\\ed.bat", "@echo [%1] [%2]>>trace.txt\r\n");

@@ -9,7 +9,7 @@ protected:
     void Executer(const std::wstring & fichier, const wchar_t * parametres) {
         Commander(L"Exécuter", {fichier});
         Attendre_parametres(fichier, parametres);
-        Verifier_repos(L"Exécuter");
+        Attendre_fin_commande();
     }
 };
 
@@ -28,8 +28,9 @@ TEST_F(Execution, un_fichier_d_une_autre_extension_n_est_pas_executable) {
     for (const wchar_t * nom : {L"README.TXT", L"EXE", L"un.exe.bak"}) {
         Commander(L"Exécuter", {nom});
         Attendre_avertissement(L"Fichier non exécutable.");
-        Verifier_repos(L"Exécuter");
+        Attendre_fin_commande();
     }
+    Verifier_repos(L"Exécuter");
     EXPECT_EQ(Lignes(0), Textes{});
 }
 
@@ -47,7 +48,7 @@ TEST_F(Execution, les_parametres_suivent_le_programme_selon_ce_qu_ils_contiennen
     for (const wchar_t * reponse : {L"/S", L"un deux"}) {
         Commander(L"Exécuter", {L"x.exe"});
         Attendre_parametres(L"x.exe", reponse, L"Annuler");
-        Verifier_repos(L"Exécuter");
+        Attendre_fin_commande();
     }
     Commander(L"Exécuter", {L"x.exe"});
     EXIGER(Fenetre(L"Saisie") && GetForegroundWindow() == Fenetre(L"Saisie"));

@@ -66,7 +66,7 @@ TEST_F(Double_clic, un_document_sans_programme_est_edite_execute_ou_laisse_au_ch
         Verifier_repos(L"Fichier_srce");
         Repondre(nom, 2);
         Attendre_avertissement(L"Fichier non exécutable.");
-        Verifier_repos(L"Fichier_srce");
+        Attendre_fin_commande();
         EXPECT_EQ(Attendre_lances(nom[0] == L'a' ? 0 : 1).size(), nom[0] == L'a' ? 0u : 1u);
         Repondre(nom, 1);
         Verifier_repos(L"Fichier_srce");
