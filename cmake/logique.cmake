@@ -4,6 +4,7 @@ set(KORVANE_SOURCES_LOGIQUE
     src/app/cles_profil.cpp
     src/app/libelles_erreur.cpp
     src/platform/nombres.cpp
+    src/browser/groupe_boutons.cpp
     src/browser/ligne_selection.cpp
     src/config/ligne_conf.cpp
     src/fileops/jauge.cpp

@@ -4,6 +4,8 @@
 #include "app/dialogue.h"
 #include "app/fenetre_principale.h"
 #include "app/fenetres.h"
+#include "browser/boutons.h"
+#include "browser/ligne_commande.h"
 #include "browser/mode.h"
 #include "browser/motif.h"
 #include "browser/panneaux.h"
@@ -11,6 +13,7 @@
 #include "browser/selection.h"
 #include "fileops/commandes.h"
 #include "fileops/infos.h"
+#include "fileops/ouvrir.h"
 #include "forms/apropos.h"
 #include "forms/dialogue.h"
 #include "forms/gestion_fichiers.h"
@@ -24,11 +27,13 @@ void Brancher(Gestion_Fichiers & f, Dialogue & d) {
     Brancher_fenetre_principale(f);
     Brancher_aide(f);
     Brancher_astuces(f);
-    Brancher_panneaux(f);
+    Brancher_panneaux(f, Ouvrir_fichier);
     Brancher_mode(f);
     Brancher_motif(f);
     Brancher_selection(f);
     Brancher_saisie_chemin(f);
+    Brancher_ligne_commande(f);
+    Brancher_boutons(f);
     Brancher_commandes(f);
     Brancher_infos(f);
     Brancher_corbeille(f);

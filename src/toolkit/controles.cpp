@@ -43,9 +43,23 @@ void Etiquette::Notification(unsigned code) {
 
 // --- push button
 
+namespace {
+constexpr int marge_bouton = 45;  // twips between the frame and the text
+}  // namespace
+
 Bouton_commande::Bouton_commande(Fenetre & fenetre, const Place & place)
     : Controle(fenetre, place, {WC_BUTTONW, BS_PUSHBUTTON | BS_NOTIFY, 0, true}) {
     Controle::Enabled(false);
+}
+
+void Bouton_commande::Caption(const std::wstring & texte) {
+    std::wstring montre = texte;
+    std::erase(montre, L'&');
+    const bool     trop_long = Parent().Largeur_texte(montre) > Width() - 2 * marge_bouton;
+    const LONG_PTR style     = GetWindowLongPtrW(Poignee(), GWL_STYLE);
+    const LONG_PTR a_gauche  = BS_LEFT;
+    SetWindowLongPtrW(Poignee(), GWL_STYLE, trop_long ? style | a_gauche : style & ~a_gauche);
+    Texte_fenetre(texte);
 }
 
 void Bouton_commande::Enabled(bool actif) {

@@ -26,7 +26,7 @@ class Bouton_commande : public Controle {
 public:
     Bouton_commande(Fenetre & fenetre, const Place & place);
     std::wstring Caption() const { return Texte_fenetre(); }
-    void         Caption(const std::wstring & texte) { Texte_fenetre(texte); }
+    void         Caption(const std::wstring & texte);  // centred; one that is too long shows its beginning
     void         Enabled(bool actif) override;
     bool         Enabled() const { return Controle::Enabled(); }
     void         Brancher(std::function<void()> click);  // binds Click; the button becomes usable
