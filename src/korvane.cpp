@@ -13,6 +13,7 @@
 #include "browser/selection.h"
 #include "fileops/commandes.h"
 #include "fileops/infos.h"
+#include "fileops/ouvrir.h"
 #include "forms/apropos.h"
 #include "forms/dialogue.h"
 #include "forms/gestion_fichiers.h"
@@ -26,7 +27,7 @@ void Brancher(Gestion_Fichiers & f, Dialogue & d) {
     Brancher_fenetre_principale(f);
     Brancher_aide(f);
     Brancher_astuces(f);
-    Brancher_panneaux(f);
+    Brancher_panneaux(f, Ouvrir_fichier);
     Brancher_mode(f);
     Brancher_motif(f);
     Brancher_selection(f);

@@ -11,6 +11,37 @@
 #include "platform/textes.h"
 #include "toolkit/boites.h"
 
+#include <functional>
+
+namespace {
+constexpr std::size_t limite_usuelle = 260;  // most programs take no longer path
+
+void Refuser(const std::wstring & chemin) {
+    const std::wstring motif = Tient_en_ansi(chemin)
+                                   ? L"des '%' que l'interpréteur de commandes remplacerait"
+                                   : L"des caractères qui ne peuvent pas être transmis à un programme";
+    Bip();
+    Message_boite(L"Le chemin du fichier " + Majuscules(Nom_du_chemin(chemin)) + L" comporte " + motif +
+                      L" :\rrenommez celui-ci et relancez l'opération.",
+                  Boite::ok | Boite::exclamation, titre_gestionnaire);
+}
+
+// The first of a path and its short name that a line can carry; `ligne` puts it there.
+std::wstring Transmissible(const std::wstring &                                      chemin,
+                           const std::function<std::wstring(const std::wstring &)> & ligne) {
+    const auto convient = [&](const std::wstring & nom) {
+        return !nom.empty() && Tient_en_ansi(nom) && !Serait_developpe(ligne(nom));
+    };
+    const bool tel = convient(chemin);
+    if (tel && chemin.size() < limite_usuelle) return chemin;
+    const std::wstring court = Chemin_court(chemin);
+    if (convient(court)) return court;
+    if (tel) return chemin;
+    Refuser(chemin);
+    return {};
+}
+}  // namespace
+
 void Lancer(const std::wstring & ligne, const std::wstring & repertoire) {
     try {
         const Repertoire_de_travail travail(repertoire.empty() ? Principale().Répertoire_srce.Path()
@@ -24,18 +55,10 @@ void Lancer(const std::wstring & ligne, const std::wstring & repertoire) {
 }
 
 std::wstring Chemin_pour(const std::wstring & programme, const std::wstring & chemin) {
-    const auto convient = [&](const std::wstring & nom) {
-        return !nom.empty() && Tient_en_ansi(nom) && !Serait_developpe(programme, nom);
-    };
-    if (convient(chemin)) return chemin;
-    const std::wstring court = Chemin_court(chemin);
-    if (convient(court)) return court;
-    const std::wstring motif = Tient_en_ansi(chemin)
-                                   ? L"des '%' que l'interpréteur de commandes remplacerait"
-                                   : L"des caractères qui ne peuvent pas être transmis à un programme";
-    Bip();
-    Message_boite(L"Le chemin du fichier " + Majuscules(Nom_du_chemin(chemin)) + L" comporte " + motif +
-                      L" :\rrenommez celui-ci et relancez l'opération.",
-                  Boite::ok | Boite::exclamation, titre_gestionnaire);
-    return {};
+    const std::wstring cite = Citer_programme(programme, Programme_existe) + L" ";
+    return Transmissible(chemin, [&](const std::wstring & nom) { return cite + nom; });
+}
+
+std::wstring Chemin_a_lancer(const std::wstring & chemin) {
+    return Transmissible(chemin, [](const std::wstring & nom) { return Citer_fichier(nom); });
 }

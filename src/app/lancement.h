@@ -8,6 +8,8 @@
 void Lancer(const std::wstring & ligne, const std::wstring & repertoire = {});
 
 // A file's path, or its name in the current directory, as a line can carry it to that program: itself, or the disk's short name
-// where the code page cannot hold it, or where the command interpreter would take part of it for a variable. Empty when there is
-// none: the user has been told, and nothing may be started under another name.
+// where the code page cannot hold it, where the command interpreter would take part of it for a variable, or where it is too long
+// for most programs. Empty when there is none: the user has been told, and nothing may be started under another name.
 std::wstring Chemin_pour(const std::wstring & programme, const std::wstring & chemin);
+// The same for the path of the program that is to be started.
+std::wstring Chemin_a_lancer(const std::wstring & chemin);

@@ -158,11 +158,9 @@ std::wstring Citer_argument(std::wstring_view programme, std::wstring_view chemi
     return cite ? Entre_guillemets(chemin) : Citer_fichier(chemin);
 }
 
-bool Serait_developpe(std::wstring_view programme, std::wstring_view chemin) {
+bool Serait_developpe(std::wstring_view ligne) {
     // A variable stands between two of them.
-    return Lance_interprete(programme) && std::count(programme.begin(), programme.end(), L'%') +
-                                                  std::count(chemin.begin(), chemin.end(), L'%') >
-                                              1;
+    return Lance_interprete(ligne) && std::count(ligne.begin(), ligne.end(), L'%') > 1;
 }
 
 std::wstring Proteger_interprete(std::wstring_view ligne) {
@@ -171,6 +169,8 @@ std::wstring Proteger_interprete(std::wstring_view ligne) {
     const std::wstring_view programme = ligne.substr(0, fin);
     std::wstring            protegee(programme);
     if (!Commence_cite(programme) && Contient_un(programme, signes)) protegee = Entre_guillemets(programme);
+    // A switch that is attached to a name in quotes is part of the name for some interpreters.
+    if (Commence_cite(programme) && fin < ligne.size() && !Contient(blancs, ligne[fin])) protegee += L' ';
     bool cite = false;
     for (const wchar_t caractere : ligne.substr(fin)) {
         if (caractere == guillemet) cite = !cite;
@@ -207,7 +207,10 @@ std::wstring Ligne_editeur(std::wstring_view editeur, std::wstring_view liste_ou
     return programme + L" " + Citer_argument(programme, liste_ou_fichier);
 }
 
-std::wstring Ligne_execution(std::wstring_view chemin, std::wstring_view parametres) {
+std::wstring Ligne_execution(std::wstring_view chemin, std::wstring_view saisie) {
+    std::wstring typees(saisie);
+    std::transform(typees.begin(), typees.end(), typees.begin(), En_blanc);
+    const std::wstring_view parametres = Ebarber(typees);
     if (parametres.empty()) return Citer_fichier(chemin);
     if (Contient(parametres, L' ') || Contient(parametres, guillemet))
         return Citer_fichier(chemin) + L" " + Citer_parametres(parametres);

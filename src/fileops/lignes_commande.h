@@ -32,8 +32,8 @@ bool Lance_interprete(std::wstring_view ligne);
 // A file's path for that program. In a batch file it is quoted as soon as the interpreter could cut it or act on it, there and
 // in the commands that the batch file makes of it.
 std::wstring Citer_argument(std::wstring_view programme, std::wstring_view chemin);
-// True when the interpreter may take part of these names for a variable and put another text in its place; quotes do not help.
-bool Serait_developpe(std::wstring_view programme, std::wstring_view chemin);
+// True when the interpreter may take part of the line for a variable and put another text in its place; quotes do not help.
+bool Serait_developpe(std::wstring_view ligne);
 // What would end the command, or cut the program's name, is escaped or quoted; "%" keeps its meaning. For a line that starts a
 // batch file, once.
 std::wstring Proteger_interprete(std::wstring_view ligne);
@@ -62,7 +62,7 @@ std::wstring Ligne_visualiseur(std::wstring_view visualiseur, std::wstring_view 
 bool         Editeur_groupe(std::wstring_view editeur);
 std::wstring Ligne_editeur(std::wstring_view editeur, std::wstring_view liste_ou_fichier,
                            const Existe & existe);
-// The parameters come trimmed: in one piece they follow the program without a blank, so that switches attach to it; the program is
+// The parameters as they were typed, blanks around them apart. In one piece they follow the program without a blank, so that switches attach to it; the program is
 // in quotes then, which show the system where its name ends.
 std::wstring Ligne_execution(std::wstring_view chemin, std::wstring_view parametres);
 

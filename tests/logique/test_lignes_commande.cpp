@@ -228,7 +228,8 @@ TEST(Interprete, rien_ne_termine_la_commande) {
               {L"a.bat ^", L"a.bat ^^"},
               {L"a.bat b^\"c & d", L"a.bat b^^\"c & d"},
               {L"a.bat b\r\ncalc", L"a.bat b  calc"},
-              {L"\"a.bat\"&calc", L"\"a.bat\"^&calc"},
+              {L"\"a.bat\"&calc", L"\"a.bat\" ^&calc"},
+              {L"\"a.bat\"/S", L"\"a.bat\" /S"},
               {L"\"C:\\b & c\\a.bat\" d & e", L"\"C:\\b & c\\a.bat\" d ^& e"},
               {L"C:\\b&c\\a.bat d&e", L"\"C:\\b&c\\a.bat\" d^&e"},
               {L"C:\\b,c\\a.bat", L"\"C:\\b,c\\a.bat\""},
@@ -268,8 +269,8 @@ TEST(Interprete, un_fichier_est_cite_pour_lui_des_qu_il_pourrait_le_couper) {
 }
 
 TEST(Interprete, deux_signes_pour_cent_peuvent_nommer_une_variable) {
-    EXPECT_TRUE(Serait_developpe(L"a.bat", L"C:\\%TEMP%.txt"));
-    EXPECT_TRUE(Serait_developpe(L"C:\\100%\\a.bat", L"C:\\100%.txt"));
-    EXPECT_FALSE(Serait_developpe(L"a.bat", L"C:\\100% coton.txt"));
-    EXPECT_FALSE(Serait_developpe(L"a.exe", L"C:\\%TEMP%.txt"));
+    EXPECT_TRUE(Serait_developpe(L"a.bat C:\\%TEMP%.txt"));
+    EXPECT_TRUE(Serait_developpe(L"\"C:\\100 %\\a.bat\" C:\\100%.txt"));
+    EXPECT_FALSE(Serait_developpe(L"a.bat C:\\100% coton.txt"));
+    EXPECT_FALSE(Serait_developpe(L"a.exe C:\\%TEMP%.txt"));
 }
