@@ -138,12 +138,22 @@ Bouton_option::Bouton_option(Fenetre & fenetre, const Place & place, bool premie
 
 bool Bouton_option::Value() const { return Envoyer(BM_GETCHECK) == BST_CHECKED; }
 
+// Unchecks the other options of the group.
+void Bouton_option::Quitter_les_autres() {
+    const HWND fenetre = Parent().Poignee();
+    for (HWND autre = GetNextDlgGroupItem(fenetre, Poignee(), FALSE); autre != nullptr && autre != Poignee();
+         autre      = GetNextDlgGroupItem(fenetre, autre, FALSE)) {
+        if (dynamic_cast<Bouton_option *>(Controle_de_poignee(autre)) != nullptr)
+            SendMessageW(autre, BM_SETCHECK, BST_UNCHECKED, 0);
+    }
+}
+
 void Bouton_option::Value(bool choisi) {
     if (choisi == Value()) return;
-    if (choisi)
-        Envoyer(BM_CLICK);  // unchecks the others of its group
-    else
-        Envoyer(BM_SETCHECK, BST_UNCHECKED);
+    // A click sent by the program would take the focus, even in a window that does not show yet.
+    if (choisi) Quitter_les_autres();
+    Envoyer(BM_SETCHECK, choisi ? BST_CHECKED : BST_UNCHECKED);
+    if (choisi && Click) Click();
 }
 
 void Bouton_option::Notification(unsigned code) {
@@ -283,9 +293,7 @@ void Barre_defilement::Value(int valeur) {
 }
 
 void Barre_defilement::Notification(unsigned code) {
-    SCROLLINFO place{sizeof place, SIF_ALL, 0, 0, 0, 0, 0};
-    GetScrollInfo(Poignee(), SB_CTL, &place);
-    switch (code) {
+    switch (LOWORD(code)) {
     case SB_LINELEFT:
     case SB_PAGELEFT: return Value(valeur_ - 1);
     case SB_LINERIGHT:
@@ -293,9 +301,20 @@ void Barre_defilement::Notification(unsigned code) {
     case SB_LEFT: return Value(minimum_);
     case SB_RIGHT: return Value(maximum_);
     case SB_THUMBTRACK:
-        Value(place.nTrackPos);
+        Value(static_cast<short>(HIWORD(code)));
         if (Scroll) Scroll();
         return;
+    case SB_THUMBPOSITION: return Value(static_cast<short>(HIWORD(code)));
     default: return;
     }
+}
+
+bool Barre_defilement::Message(unsigned message, std::uintptr_t mot, std::intptr_t, std::intptr_t & resultat) {
+    if (message != WM_MOUSEWHEEL) return false;
+    molette_ += GET_WHEEL_DELTA_WPARAM(mot);
+    const int crans = molette_ / WHEEL_DELTA;
+    molette_ -= crans * WHEEL_DELTA;
+    Value(valeur_ - crans);
+    resultat = 0;
+    return true;
 }
