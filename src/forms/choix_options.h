@@ -12,9 +12,9 @@ struct Choix_Options : Fenetre {
 
     // clang-format off
     Etiquette        Titre_programmes{*this, {L"Titre_programmes",  180,  150, 3600, 270, L"Programmes",                      aide_options_programmes}, Alignement::gauche, true};
-    Etiquette        Titre_éditeur   {*this, {L"Titre_éditeur",     180,  480, 1050, 330, L"Éditeur :",                       aide_options_éditeur}};
+    Etiquette        Titre_éditeur   {*this, {L"Titre_éditeur",     180,  465, 1050, 330, L"Éditeur :",                       aide_options_éditeur}};
     Champ_texte      Nom_éditeur     {*this, {L"Nom_éditeur",      1230,  480, 2550, 330, L"",                                aide_options_éditeur}};
-    Etiquette        Titre_visualiseur{*this, {L"Titre_visualiseur", 180, 900, 1050, 330, L"Visualiseur :",                   aide_options_visualiseur}};
+    Etiquette        Titre_visualiseur{*this, {L"Titre_visualiseur", 180, 885, 1050, 330, L"Visualiseur :",                   aide_options_visualiseur}};
     Champ_texte      Nom_visualiseur {*this, {L"Nom_visualiseur",  1230,  900, 2550, 330, L"",                                aide_options_visualiseur}};
     Etiquette        Titre_commandes {*this, {L"Titre_commandes",   180, 1410, 3600, 270, L"Fonctionnement",                  aide_options_commandes}, Alignement::gauche, true};
     Case_a_cocher    Confirmation    {*this, {L"Confirmation",      180, 1740, 3600, 270, L"Con&firmer les commandes",        aide_options_confirmation}};
@@ -35,7 +35,7 @@ struct Choix_Options : Fenetre {
         {*this, {L"Ligne_exemple(2)", 4020, 2580, 30, 690, L""}},
         {*this, {L"Ligne_exemple(3)", 7290, 2580, 30, 690, L""}},
     }};
-    Etiquette        Titre_exemple   {*this, {L"Titre_exemple",    4140, 2760, 1230, 330, L"Cadre",                           aide_options_exemple}, Alignement::centre, true};
+    Etiquette        Titre_exemple   {*this, {L"Titre_exemple",    4140, 2745, 1230, 330, L"Cadre",                           aide_options_exemple}, Alignement::centre, true};
     Champ_texte      Exemple         {*this, {L"Exemple",          5460, 2760, 1740, 330, L"Exemple",                         aide_options_exemple}};
     Cadre            Exemple_fond    {*this, {L"Exemple_fond",     4020, 2580, 3300, 690, L"",                                aide_options_exemple}};
     Etiquette        Titre_windows   {*this, {L"Titre_windows",     180, 3435, 7140, 270, L"Réglages de Windows",             aide_options_windows}, Alignement::gauche, true};

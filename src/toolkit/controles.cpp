@@ -284,11 +284,23 @@ void Barre_defilement::Bornes(int minimum, int maximum) {
     SetScrollInfo(Poignee(), SB_CTL, &bornes, TRUE);
 }
 
+// The mark of the focus blinks over the slider: not every system moves it along.
+void Barre_defilement::Montrer_place() {
+    const bool marquee = A_le_focus();
+    if (marquee) HideCaret(Poignee());
+    SetScrollPos(Poignee(), SB_CTL, valeur_, TRUE);
+    if (!marquee) return;
+    SCROLLBARINFO place{};
+    place.cbSize = sizeof place;
+    if (GetScrollBarInfo(Poignee(), OBJID_CLIENT, &place) != FALSE) SetCaretPos(place.xyThumbTop + 1, 1);
+    ShowCaret(Poignee());
+}
+
 void Barre_defilement::Value(int valeur) {
     const int borne = std::clamp(valeur, minimum_, maximum_);
     if (borne == valeur_) return;
     valeur_ = borne;
-    SetScrollPos(Poignee(), SB_CTL, borne, TRUE);
+    Montrer_place();
     if (Change) Change();
 }
 

@@ -164,6 +164,8 @@ protected:
     bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large, std::intptr_t & resultat) override;
 
 private:
+    void Montrer_place();
+
     int minimum_ = 0, maximum_ = 7, valeur_ = 0;
     int molette_ = 0;  // turned and not yet a step
 };
