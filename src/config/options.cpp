@@ -14,10 +14,16 @@
 #include "forms/gestion_fichiers.h"
 #include "platform/chemins.h"
 #include "platform/erreur.h"
+#include "platform/fichiers.h"
 #include "platform/nombres.h"
 #include "platform/profil.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
+#include "platform/transfert.h"
+
+#include <functional>
+#include <utility>
+#include <vector>
 
 namespace {
 constexpr int             ecart            = 1450;  // twips from the main window's corner, both ways
@@ -29,18 +35,13 @@ constexpr const wchar_t * programme_applet = L"Control.exe";
 // --- what the window shows
 
 void Montrer_couleur(Choix_Options & w) {
-    variables.Option_couleur = std::to_wstring(w.Choix_couleur.Value());
+    variables.Option_couleur      = std::to_wstring(w.Choix_couleur.Value());
     const Couleurs_cadre couleurs = Couleurs_du_cadre(w.Choix_couleur.Value());
     w.Exemple_fond.BackColor(couleurs.fond);
     w.Exemple_fond.BorderColor(couleurs.fond);
     w.Titre_exemple.BackColor(couleurs.fond);
     w.Titre_exemple.ForeColor(couleurs.encre);
     for (Ligne & bord : w.Ligne_exemple) bord.BackColor(couleurs.ligne);
-}
-
-void Garder_programmes(const Choix_Options & w) {
-    variables.Editeur     = Sans_marges(w.Nom_éditeur.Text());
-    variables.Visualiseur = Sans_marges(w.Nom_visualiseur.Text());
 }
 
 void Montrer_depart(Choix_Options & w, const std::wstring & valeur) {
@@ -51,14 +52,26 @@ void Montrer_depart(Choix_Options & w, const std::wstring & valeur) {
     w.Choisi.Value(depart == Depart::choisi);
 }
 
-// What Annule puts back.
+// What the fields change before anything is saved.
 void Retenir(Choix_Options & w) {
     w.Editeur_avant     = variables.Editeur;
     w.Visualiseur_avant = variables.Visualiseur;
     w.Couleur_avant     = variables.Option_couleur;
 }
 
+void Rendre(const Choix_Options & w) {
+    variables.Editeur        = w.Editeur_avant;
+    variables.Visualiseur    = w.Visualiseur_avant;
+    variables.Option_couleur = w.Couleur_avant;
+}
+
+// Reads of a settings file that another program has locked would give the defaults, which OK would then save.
+void Exiger_reglages_lisibles() {
+    if (Fichier_existe(variables.Fichier_ini)) const Transfert lecture(variables.Fichier_ini);
+}
+
 void Lire_options(Choix_Options & w) {
+    Exiger_reglages_lisibles();
     Retenir(w);
     w.Nom_éditeur.Text(Lire_option(Cle::editeur));
     w.Nom_visualiseur.Text(Lire_option(Cle::visualiseur));
@@ -86,17 +99,27 @@ void Exiger_textes(Choix_Options & w) {
     }
 }
 
-void Ecrire(const wchar_t * cle, const std::wstring & valeur) {
-    Ecrire_profil(variables.Fichier_ini, Section::options, cle, valeur);
-}
-
 Depart Depart_choisi(const Choix_Options & w) {
     if (w.Courant.Value()) return Depart::courant;
     return w.Choisi.Value() ? Depart::choisi : Depart::racine;
 }
 
-// Takes effect at once, but for the options of the start.
+std::vector<std::pair<const wchar_t *, std::wstring>> Valeurs(const Choix_Options & w) {
+    return {
+        {Cle::editeur, Programme_ecrit(w.Nom_éditeur.Text(), Defaut::editeur)},
+        {Cle::visualiseur, Programme_ecrit(w.Nom_visualiseur.Text(), Defaut::visualiseur)},
+        {Cle::iconise, Oui_non(w.Iconisé.Value())},
+        {Cle::aide, Oui_non(w.Aide.Value())},
+        {Cle::confirme, Oui_non(w.Confirmation.Value())},
+        {Cle::remplace, Oui_non(w.Remplacement.Value())},
+        {Cle::couleur, std::to_wstring(w.Choix_couleur.Value())},
+        {Cle::repertoire, Depart_ecrit(Depart_choisi(w), w.Répert_choisi.Text())},
+    };
+}
+
+// What the file says is in force, but for the options of the start.
 void Appliquer_reglages() {
+    Exiger_reglages_lisibles();
     Lire_options_commandes();
     Lire_couleur();
     Appliquer_couleur(Couleur_permise(Valeur(variables.Option_couleur)));
@@ -104,52 +127,54 @@ void Appliquer_reglages() {
 
 void Ecrire_options(Choix_Options & w) {
     Exiger_textes(w);
-    variables.Option_couleur = std::to_wstring(w.Choix_couleur.Value());
-    Ecrire(Cle::editeur, Programme_ecrit(w.Nom_éditeur.Text(), Defaut::editeur));
-    Ecrire(Cle::visualiseur, Programme_ecrit(w.Nom_visualiseur.Text(), Defaut::visualiseur));
-    Ecrire(Cle::iconise, Oui_non(w.Iconisé.Value()));
-    Ecrire(Cle::aide, Oui_non(w.Aide.Value()));
-    Ecrire(Cle::confirme, Oui_non(w.Confirmation.Value()));
-    Ecrire(Cle::remplace, Oui_non(w.Remplacement.Value()));
-    Ecrire(Cle::couleur, variables.Option_couleur);
-    Appliquer_couleur(w.Choix_couleur.Value());
-    Ecrire(Cle::repertoire, Depart_ecrit(Depart_choisi(w), w.Répert_choisi.Text()));
+    for (const auto & [cle, valeur] : Valeurs(w))
+        Ecrire_profil(variables.Fichier_ini, Section::options, cle, valeur);
     Appliquer_reglages();
+}
+
+// However far the writing went; a file that cannot even be read changes nothing.
+void Remettre_en_vigueur(Choix_Options & w) {
+    if (Tenter(Appliquer_reglages))
+        Retenir(w);
+    else
+        Rendre(w);
 }
 
 // --- handlers
 
-void OK_Click(Choix_Options & w) {
-    bool ecrites              = false;
+// False after the report of an error, which names the settings file.
+bool Avec_reglages(const wchar_t * etape, const std::function<void()> & corps,
+                   const std::function<void()> & remise = {}) {
+    bool fait                 = false;
     variables.Fichier_courant = Nom_du_chemin(variables.Fichier_ini);
     Pieger(
-        etape_ecriture,
+        etape,
         [&] {
-            Ecrire_options(w);
-            ecrites = true;
+            corps();
+            fait = true;
         },
-        [&] {
-            // What is in force is what the file says, however far the writing went.
-            Appliquer_reglages();
-            Retenir(w);
-        });
+        remise);
     variables.Fichier_courant.clear();
-    if (!ecrites) return;
+    return fait;
+}
+
+void OK_Click(Choix_Options & w) {
+    if (!Avec_reglages(
+            etape_ecriture, [&] { Ecrire_options(w); }, [&] { Remettre_en_vigueur(w); }))
+        return;
     Principale().Redessiner();
     Fermer_fille(w);
 }
 
 void Annule_Click(Choix_Options & w) {
-    variables.Editeur        = w.Editeur_avant;
-    variables.Visualiseur    = w.Visualiseur_avant;
-    variables.Option_couleur = w.Couleur_avant;
+    Rendre(w);
     Fermer_fille(w);
 }
 
 // At once, in both lists, whether the options are saved or not.
 void Cachés_Click(const Choix_Options & w) {
-    Gestion_Fichiers & f        = Principale();
-    const bool         montrer  = w.Cachés.Value();
+    Gestion_Fichiers & f       = Principale();
+    const bool         montrer = w.Cachés.Value();
     if (montrer == f.Fichier_srce.Hidden() && montrer == f.Fichier_dest.Hidden()) return;
     for (Liste_fichiers * liste : {&f.Fichier_srce, &f.Fichier_dest})
         Pieger(L"OPTIONS", [&] { liste->Hidden(montrer); });
@@ -170,8 +195,8 @@ void Ouvrir_applet(const wchar_t * applet) {
 void Brancher_saisie(Choix_Options & w) {
     for (Champ_texte * champ : {&w.Nom_éditeur, &w.Nom_visualiseur, &w.Répert_choisi})
         champ->Limite(longueur_saisie);
-    w.Nom_éditeur.Change     = [&w] { Garder_programmes(w); };
-    w.Nom_visualiseur.Change = [&w] { Garder_programmes(w); };
+    w.Nom_éditeur.Change     = [&w] { variables.Editeur = Sans_marges(w.Nom_éditeur.Text()); };
+    w.Nom_visualiseur.Change = [&w] { variables.Visualiseur = Sans_marges(w.Nom_visualiseur.Text()); };
     w.Cachés.Click           = [&w] { Cachés_Click(w); };
     w.Choisi.Click           = [&w] { Choisi_Click(w); };
     w.Choix_couleur.Bornes(0, derniere_couleur);
@@ -207,15 +232,13 @@ Choix_Options & Fenetre_options() {
 
 void Options_Click() {
     if (variables.Garde) return;
-    Pieger(L"OPTIONS", [] {
-        Choix_Options & w       = Fenetre_options();
-        const int       bordure = static_cast<int>(variables.Bordure);
-        Placer_fille(w, ecart + bordure, ecart + bordure);
-        Pieger(etape_lecture, [&] { Lire_options(w); });
-        w.Nom_éditeur.SetFocus();
-        w.Nom_éditeur.Selectionner(0, -1);
-        w.Show_modal(Principale());
-    });
+    Choix_Options & w       = Fenetre_options();
+    const int       bordure = static_cast<int>(variables.Bordure);
+    Placer_fille(w, ecart + bordure, ecart + bordure);
+    if (!Avec_reglages(etape_lecture, [&] { Lire_options(w); })) return;
+    w.Nom_éditeur.SetFocus();
+    w.Nom_éditeur.Selectionner(0, -1);
+    w.Show_modal(Principale());
 }
 }  // namespace
 

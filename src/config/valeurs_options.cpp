@@ -14,6 +14,11 @@ bool Meme_mot(std::wstring_view a, std::wstring_view b) {
     const auto pareilles = [](wchar_t x, wchar_t y) { return En_minuscule(x) == En_minuscule(y); };
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), pareilles);
 }
+// A path copied from elsewhere may come between quotes, which no directory's name can hold.
+std::wstring_view Sans_guillemets(std::wstring_view texte) {
+    const bool entre = texte.size() >= 2 && texte.front() == L'"' && texte.back() == L'"';
+    return entre ? Sans_marges(texte.substr(1, texte.size() - 2)) : texte;
+}
 }  // namespace
 
 std::wstring_view Sans_marges(std::wstring_view texte) {
@@ -36,6 +41,6 @@ Depart Depart_lu(std::wstring_view valeur) {
 
 std::wstring Depart_ecrit(Depart depart, std::wstring_view champ) {
     if (depart == Depart::racine) return racine;
-    const std::wstring_view chemin = Sans_marges(champ);
+    const std::wstring_view chemin = Sans_guillemets(Sans_marges(champ));
     return depart == Depart::courant || chemin.empty() ? courant : std::wstring(chemin);
 }

@@ -18,5 +18,5 @@ enum class Depart { racine, courant, choisi };
 
 // Of a value of the file, in any case: anything but the two words is a chosen path.
 Depart Depart_lu(std::wstring_view valeur);
-// What is written: a chosen path that is empty is the current directory.
+// What is written: a chosen path without blanks or quotes around it; an empty one is the current directory.
 std::wstring Depart_ecrit(Depart depart, std::wstring_view champ);

@@ -321,7 +321,8 @@ void Barre_defilement::Notification(unsigned code) {
     }
 }
 
-bool Barre_defilement::Message(unsigned message, std::uintptr_t mot, std::intptr_t, std::intptr_t & resultat) {
+bool Barre_defilement::Message(unsigned message, std::uintptr_t mot, std::intptr_t,
+                               std::intptr_t & resultat) {
     if (message != WM_MOUSEWHEEL) return false;
     molette_ += GET_WHEEL_DELTA_WPARAM(mot);
     const int crans = molette_ / WHEEL_DELTA;

@@ -80,8 +80,8 @@ protected:
 class Bouton_option : public Controle {
 public:
     Bouton_option(Fenetre & fenetre, const Place & place, bool premiere = false);
-    bool                  Value() const;
-    void                  Value(bool choisi);  // raises Click when it differs; the others of the group are unchosen
+    bool Value() const;
+    void Value(bool choisi);  // raises Click when it differs; the others of the group are unchosen
     std::function<void()> Click;
 
 protected:
@@ -161,7 +161,8 @@ public:
 
 protected:
     void Notification(unsigned code) override;
-    bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large, std::intptr_t & resultat) override;
+    bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large,
+                 std::intptr_t & resultat) override;
 
 private:
     void Montrer_place();

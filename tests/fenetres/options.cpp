@@ -1,4 +1,6 @@
 #include "fenetres/options.h"
+#include "fenetres/obstacles.h"
+#include "fenetres/systeme_hote.h"
 
 using namespace Pilote;
 using Textes = std::vector<std::wstring>;
@@ -100,7 +102,8 @@ TEST_F(Options, ok_ecrit_chaque_cle_et_ne_perd_rien_de_ce_qu_un_autre_a_ajoute_e
                                                  {L"Confirme", L"Oui"},
                                                  {L"Remplace", L"Non"},
                                                  {L"Couleur", L"4"}});
-    EXPECT_EQ(Contenu_ini(), attendu + "[S\xE9lections]\r\nTextes=*.txt; *.doc\r\n[Boutons]\r\n&Lettre=c:\\lettre.txt\r\n");
+    EXPECT_EQ(Contenu_ini(),
+              attendu + "[S\xE9lections]\r\nTextes=*.txt; *.doc\r\n[Boutons]\r\n&Lettre=c:\\lettre.txt\r\n");
     // What was written is what the next opening shows.
     const auto encore = Rouvrir_options();
     EXPECT_EQ(Utf8(encore.Lire(L"Nom_éditeur")), "Éd 2.exe /x");
@@ -268,4 +271,46 @@ TEST_F(Options, un_texte_que_le_fichier_ne_peut_contenir_est_refuse_avant_toute_
     fille.Cliquer(L"Courant");
     Accepter(fille);
     EXPECT_EQ(Cle(L"Répertoire"), L"Courant");
+}
+
+// Defaults shown in the place of what cannot be read would be saved by OK.
+TEST_F(Options, des_reglages_verrouilles_par_un_autre_programme_ne_sont_ni_montres_ni_changes) {
+    Regler(L"Options", L"Confirme", L"Oui");
+    Regler(L"Options", L"Editeur", L"ed.exe");
+    Creer_source(L"a.txt", 10);
+    const auto        fille = Ouvrir_options();
+    const std::string avant = Contenu_ini();
+    fille.Remplacer(L"Nom_visualiseur", L"vue.exe");
+    {
+        const Verrou verrou(Fichier_ini());
+        fille.Cliquer(L"OK");
+        Attendre_protege(L"KORVANE.INI");
+        EXPECT_EQ(fille.Lire(L"Nom_visualiseur"), L"vue.exe");
+        Renoncer(fille);
+        Cliquer(L"Options");
+        Attendre_avertissement(L"Disquette protégée en écriture\rou fichier verrouillé.");
+        EXPECT_FALSE(fille.Ouverte());
+    }
+    EXPECT_EQ(Contenu_ini(), avant);
+    // What is in force is what it was.
+    Choisir({L"a.txt"});
+    Cliquer(L"Copier");
+    Attendre_confirmation(L"COPIER", L"a.txt", destination, oui_non, IDNO);
+    Attendre_fin_commande();
+    EXPECT_EQ(Rouvrir_options().Lire(L"Nom_éditeur"), L"ed.exe");
+}
+
+TEST_F(Options, des_reglages_qui_ne_peuvent_etre_crees_sont_signales) {
+    Lancer();
+    ASSERT_TRUE(Effacer(Fichier_ini()));
+    ASSERT_TRUE(Sur_hote(dossier / L"programme", L"chmod 555 ."));
+    const auto fille = Rouvrir_options();
+    Cocher(fille, L"Confirmation", true);
+    fille.Cliquer(L"OK");
+    Attendre_protege(L"KORVANE.INI");
+    EXPECT_TRUE(fille.Ouverte() && fille.Est_coche(L"Confirmation"));
+    EXPECT_FALSE(Existe(Fichier_ini()));
+    ASSERT_TRUE(Sur_hote(dossier / L"programme", L"chmod 755 ."));
+    Accepter(fille);
+    EXPECT_EQ(Cle(L"Confirme"), L"Oui");
 }

@@ -18,10 +18,10 @@ struct Cas {
 
 constexpr COLORREF gris_fonce = RGB(128, 128, 128), gris_clair = RGB(192, 192, 192);
 constexpr Cas      couleurs[] = {
-    {0, gris_fonce, gris_clair},
-    {1, RGB(0, 0, 128), RGB(0, 0, 255)},
-    {4, RGB(128, 0, 0), RGB(255, 0, 0)},
-    {7, gris_clair, RGB(255, 255, 255)},
+         {0, gris_fonce, gris_clair},
+         {1, RGB(0, 0, 128), RGB(0, 0, 255)},
+         {4, RGB(128, 0, 0), RGB(255, 0, 0)},
+         {7, gris_clair, RGB(255, 255, 255)},
 };
 
 }  // namespace
@@ -60,7 +60,8 @@ TEST_F(Ecran_options, l_exemple_suit_la_barre_et_ok_donne_sa_couleur_a_la_fenetr
         SCOPED_TRACE(cas.rang);
         const auto fille = Rouvrir_options();
         Aller_a(fille, cas.rang);
-        EXPECT_TRUE(Attendre([&] { return Fond_exemple(fille) == cas.fond; })) << std::hex << Fond_exemple(fille);
+        EXPECT_TRUE(Attendre([&] { return Fond_exemple(fille) == cas.fond; }))
+            << std::hex << Fond_exemple(fille);
         for (int rang = 0; rang < 4; ++rang)
             EXPECT_TRUE(Attendre([&] { return Ligne_exemple(fille, rang) == cas.ligne; })) << rang;
         Accepter(fille);

@@ -1,6 +1,7 @@
 #include "forms/aide_choix_options.h"
 
 #include "fenetres/options.h"
+#include "pilote/corbeille.h"
 
 #include <algorithm>
 #include <sstream>
@@ -27,7 +28,8 @@ protected:
     const Textes tous{L"a.txt", L"caché.txt", L"z.txt"};
 };
 
-TEST_F(Options_effets, les_fichiers_caches_se_montrent_au_clic_et_restent_montres_jusqu_au_prochain_demarrage) {
+TEST_F(Options_effets,
+       les_fichiers_caches_se_montrent_au_clic_et_restent_montres_jusqu_au_prochain_demarrage) {
     Creer_caches();
     Lancer_dans_les_dossiers();
     Choisir({L"a.txt", L"z.txt"});
@@ -89,13 +91,14 @@ TEST_F(Options_effets, un_fichier_cache_que_la_liste_montre_se_copie_et_s_efface
 }
 
 TEST_F(Options_effets, la_barre_obeit_a_la_souris_aux_touches_et_aux_places_demandees) {
-    const auto fille  = Ouvrir_options();
-    const HWND barre  = fille.Controle(L"Choix_couleur");
-    const RECT place  = Place_ecran(barre);
-    const int  milieu = (place.top + place.bottom) / 2;
+    const auto fille    = Ouvrir_options();
+    const HWND barre    = fille.Controle(L"Choix_couleur");
+    const RECT place    = Place_ecran(barre);
+    const int  milieu   = (place.top + place.bottom) / 2;
     const auto attendre = [&](int couleur) {
         fille.Reposer();
-        EXPECT_TRUE(Attendre([&] { return Couleur(fille) == couleur; })) << Couleur(fille) << " / " << couleur;
+        EXPECT_TRUE(Attendre([&] { return Couleur(fille) == couleur; }))
+            << Couleur(fille) << " / " << couleur;
     };
     Pilote::Cliquer(POINT{place.right - 4, milieu});
     attendre(1);
@@ -104,9 +107,9 @@ TEST_F(Options_effets, la_barre_obeit_a_la_souris_aux_touches_et_aux_places_dema
     Pilote::Cliquer(POINT{place.left + 4, milieu});
     attendre(1);
     ATTENDRE(fille.Nom_du_focus() == L"Choix_couleur");
-    const std::pair<WORD, int> touches[] = {{VK_RIGHT, 2}, {VK_DOWN, 3}, {VK_NEXT, 4}, {VK_PRIOR, 3},
-                                            {VK_LEFT, 2},  {VK_END, 7},  {VK_RIGHT, 7}, {VK_HOME, 0},
-                                            {VK_LEFT, 0}};
+    const std::pair<WORD, int> touches[] = {{VK_RIGHT, 2}, {VK_DOWN, 3}, {VK_NEXT, 4},
+                                            {VK_PRIOR, 3}, {VK_LEFT, 2}, {VK_END, 7},
+                                            {VK_RIGHT, 7}, {VK_HOME, 0}, {VK_LEFT, 0}};
     for (const auto & [touche, couleur] : touches) {
         Frapper(touche);
         attendre(couleur);
@@ -131,10 +134,10 @@ TEST_F(Options_effets, la_barre_obeit_a_la_souris_aux_touches_et_aux_places_dema
 TEST_F(Options_effets, le_clavier_parcourt_la_fenetre_dans_l_ordre_et_l_exemple_ne_garde_pas_le_focus) {
     const auto fille = Ouvrir_options();
     Verifier_place(fille, 1450 + 3, 1450 + 3);
-    Verifier_clavier_et_disposition(
-        fille, {L"Nom_éditeur", L"Nom_visualiseur", L"Confirmation", L"Remplacement", L"Iconisé", L"Aide",
-                L"Cachés", L"Choisi", L"Répert_choisi", L"Choix_couleur", L"Bureau", L"Couleurs", L"DateHeure",
-                L"Imprimantes", L"OK", L"Annule"});
+    Verifier_clavier_et_disposition(fille, {L"Nom_éditeur", L"Nom_visualiseur", L"Confirmation",
+                                            L"Remplacement", L"Iconisé", L"Aide", L"Cachés", L"Choisi",
+                                            L"Répert_choisi", L"Choix_couleur", L"Bureau", L"Couleurs",
+                                            L"DateHeure", L"Imprimantes", L"OK", L"Annule"});
     Pilote::Cliquer(fille.Controle(L"Exemple"));
     ATTENDRE(fille.Nom_du_focus() == L"Choix_couleur");
     Taper(L"x");
@@ -146,8 +149,11 @@ TEST_F(Options_effets, le_clavier_parcourt_la_fenetre_dans_l_ordre_et_l_exemple_
     ATTENDRE(Depart(fille) == L"Racine");
     Alt(L'h');
     ATTENDRE(Depart(fille) == L"Choisi");
-    for (const auto & [lettre, nom] : {std::pair{L'f', L"Confirmation"}, {L'r', L"Remplacement"},
-                                       {L'i', L"Iconisé"}, {L'e', L"Aide"}, {L'l', L"Cachés"}}) {
+    for (const auto & [lettre, nom] : {std::pair{L'f', L"Confirmation"},
+                                       {L'r', L"Remplacement"},
+                                       {L'i', L"Iconisé"},
+                                       {L'e', L"Aide"},
+                                       {L'l', L"Cachés"}}) {
         const bool avant = fille.Est_coche(nom);
         Alt(lettre);
         EXPECT_TRUE(Attendre([&] { return fille.Est_coche(nom) != avant; })) << Utf8(nom);
@@ -201,13 +207,16 @@ protected:
     }
 };
 
-TEST_F(Options_applets, les_quatre_boutons_ouvrent_le_panneau_de_configuration_et_jamais_un_fichier_de_source) {
+TEST_F(Options_applets,
+       les_quatre_boutons_ouvrent_le_panneau_de_configuration_et_jamais_un_fichier_de_source) {
     Installer_sous(dossier / L"programme\\CONTROL.EXE");
     Installer_sous(Source(L"CONTROL.EXE"));
-    const auto fille = Ouvrir_options();
+    const auto  fille  = Ouvrir_options();
     std::size_t nombre = 0;
-    for (const auto & [bouton, applet] : {std::pair{L"Bureau", L"Desktop"}, {L"Couleurs", L"Color"},
-                                          {L"DateHeure", L"Date/Time"}, {L"Imprimantes", L"Printers"}}) {
+    for (const auto & [bouton, applet] : {std::pair{L"Bureau", L"Desktop"},
+                                          {L"Couleurs", L"Color"},
+                                          {L"DateHeure", L"Date/Time"},
+                                          {L"Imprimantes", L"Printers"}}) {
         fille.Cliquer(bouton);
         ++nombre;
         ASSERT_TRUE(Attendre([&] { return Demarrages().size() == nombre; }, 10000)) << Utf8(bouton);
@@ -221,4 +230,54 @@ TEST_F(Options_applets, les_quatre_boutons_ouvrent_le_panneau_de_configuration_e
     }
     EXPECT_TRUE(Boite_absente());
     Renoncer(fille);
+}
+
+TEST_F(Options_applets, un_panneau_de_configuration_qui_n_est_pas_un_programme_est_signale) {
+    Creer_fichier(dossier / L"programme\\CONTROL.EXE", "rien d'un programme");
+    const auto fille = Ouvrir_options();
+    fille.Cliquer(L"DateHeure");
+    Attendre_avertissement(
+        L"Fichier non exécutable :CONTROL.EXE\rseuls les programmes avec les extensions COM, EXE, BAT ou PIF "
+        L"sont exécutables.");
+    EXPECT_TRUE(fille.Ouverte());
+    Renoncer(fille);
+    Verifier_principale_utilisable();
+}
+
+// The bin's own files show too: their names are its codes.
+class Options_corbeille : public Options {
+protected:
+    Options_corbeille() { Corbeille::Vider(); }
+    ~Options_corbeille() override {
+        Fermer();
+        Corbeille::Vider();
+    }
+    void Effacer_un(const std::wstring & nom) {
+        Choisir({nom});
+        Cliquer(L"Effacer");
+        Attendre_boite(gestionnaire,
+                       L"Vous allez EFFACER le fichier '" + nom + L"' du répertoire\r" + source +
+                           L"\rConfirmez-vous cette commande ?",
+                       oui_non, IDYES);
+    }
+};
+
+TEST_F(Options_corbeille, un_fichier_cache_se_depose_et_un_fichier_deja_depose_reste_protege) {
+    Regler(L"Corbeille", L"Taille", L"9999");
+    Creer_source(L"caché.txt", 100);
+    Attributs(Source(L"caché.txt"), FILE_ATTRIBUTE_HIDDEN);
+    const auto fille = Ouvrir_options();
+    fille.Cliquer(L"Cachés");
+    Accepter(fille);
+    Effacer_un(L"caché.txt");
+    Attendre_fin_commande();
+    const Textes restants = Noms(source);
+    ASSERT_EQ(restants.size(), 1u);
+    EXPECT_TRUE(restants[0].starts_with(L"crb"));
+    ATTENDRE(Entrees(L"Fichier_srce") == restants);
+    Effacer_un(restants[0]);
+    Attendre_protege(Capitales(restants[0]));
+    Attendre_fin_commande();
+    EXPECT_EQ(Noms(source), restants);
+    EXPECT_EQ(Corbeille::Lignes().size(), 1u);
 }

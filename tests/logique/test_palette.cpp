@@ -28,7 +28,8 @@ TEST(Palette, zero_et_ce_qui_n_est_pas_permis_donnent_le_gris) {
         EXPECT_EQ(Couleurs_du_cadre(couleur), Couleurs_du_cadre(0)) << couleur;
         EXPECT_EQ(Couleur_permise(couleur), 0) << couleur;
     }
-    for (int couleur = 0; couleur <= derniere_couleur; ++couleur) EXPECT_EQ(Couleur_permise(couleur), couleur);
+    for (int couleur = 0; couleur <= derniere_couleur; ++couleur)
+        EXPECT_EQ(Couleur_permise(couleur), couleur);
     EXPECT_EQ(Couleur_permise(3.9), 3);
     EXPECT_EQ(Couleur_permise(1e30), 0);
     EXPECT_EQ(Couleur_permise(std::nan("")), 0);

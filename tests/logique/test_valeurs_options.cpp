@@ -24,8 +24,10 @@ TEST(Valeurs_options, un_nom_de_programme_perd_les_blancs_qui_l_entourent_et_eux
 TEST(Valeurs_options, les_deux_mots_du_repertoire_se_lisent_dans_toutes_les_casses) {
     for (const wchar_t * texte : {L"courant", L"Courant", L"COURANT", L"cOuRaNt"})
         EXPECT_EQ(Depart_lu(texte), Depart::courant);
-    for (const wchar_t * texte : {L"racine", L"Racine", L"RACINE"}) EXPECT_EQ(Depart_lu(texte), Depart::racine);
-    for (const wchar_t * texte : {L"D:\\DATA", L"", L"Couran", L"Courants", L"Racine ", L"C:\\Racine", L"ŗacine"})
+    for (const wchar_t * texte : {L"racine", L"Racine", L"RACINE"})
+        EXPECT_EQ(Depart_lu(texte), Depart::racine);
+    for (const wchar_t * texte :
+         {L"D:\\DATA", L"", L"Couran", L"Courants", L"Racine ", L"C:\\Racine", L"ŗacine"})
         EXPECT_EQ(Depart_lu(texte), Depart::choisi);
 }
 
@@ -34,6 +36,9 @@ TEST(Valeurs_options, le_repertoire_s_ecrit_par_un_mot_ou_par_son_chemin_qui_ne_
     EXPECT_EQ(Depart_ecrit(Depart::courant, L"D:\\DATA"), L"Courant");
     EXPECT_EQ(Depart_ecrit(Depart::choisi, L"D:\\DATA"), L"D:\\DATA");
     EXPECT_EQ(Depart_ecrit(Depart::choisi, L" D:\\Mes données "), L"D:\\Mes données");
+    EXPECT_EQ(Depart_ecrit(Depart::choisi, L" \"D:\\Mes données\" "), L"D:\\Mes données");
+    EXPECT_EQ(Depart_ecrit(Depart::choisi, L"\""), L"\"");
+    EXPECT_EQ(Depart_ecrit(Depart::choisi, L"\" \""), L"Courant");
     EXPECT_EQ(Depart_ecrit(Depart::choisi, L""), L"Courant");
     EXPECT_EQ(Depart_ecrit(Depart::choisi, L"  \t"), L"Courant");
 }
