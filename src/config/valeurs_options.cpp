@@ -16,8 +16,9 @@ bool Meme_mot(std::wstring_view a, std::wstring_view b) {
 }
 // A path copied from elsewhere may come between quotes, which no directory's name can hold.
 std::wstring_view Sans_guillemets(std::wstring_view texte) {
-    const bool entre = texte.size() >= 2 && texte.front() == L'"' && texte.back() == L'"';
-    return entre ? Sans_marges(texte.substr(1, texte.size() - 2)) : texte;
+    while (texte.size() >= 2 && texte.front() == L'"' && texte.back() == L'"')
+        texte = Sans_marges(texte.substr(1, texte.size() - 2));
+    return texte;
 }
 }  // namespace
 

@@ -138,12 +138,17 @@ Bouton_option::Bouton_option(Fenetre & fenetre, const Place & place, bool premie
 
 bool Bouton_option::Value() const { return Envoyer(BM_GETCHECK) == BST_CHECKED; }
 
-// Unchecks the other options of the group.
+// Those that are disabled or do not show are unchosen too.
 void Bouton_option::Quitter_les_autres() {
-    const HWND fenetre = Parent().Poignee();
-    for (HWND autre = GetNextDlgGroupItem(fenetre, Poignee(), FALSE); autre != nullptr && autre != Poignee();
-         autre      = GetNextDlgGroupItem(fenetre, autre, FALSE)) {
-        if (dynamic_cast<Bouton_option *>(Controle_de_poignee(autre)) != nullptr)
+    const auto debute = [](HWND controle) {
+        return (GetWindowLongPtrW(controle, GWL_STYLE) & WS_GROUP) != 0;
+    };
+    HWND premier = Poignee();
+    for (HWND avant = premier; avant != nullptr && !debute(premier); avant = GetWindow(premier, GW_HWNDPREV))
+        premier = avant;
+    for (HWND autre = premier; autre != nullptr && (autre == premier || !debute(autre));
+         autre      = GetWindow(autre, GW_HWNDNEXT)) {
+        if (autre != Poignee() && dynamic_cast<Bouton_option *>(Controle_de_poignee(autre)) != nullptr)
             SendMessageW(autre, BM_SETCHECK, BST_UNCHECKED, 0);
     }
 }
