@@ -12,11 +12,15 @@ TEST(Valeurs_options, un_nom_de_programme_vide_ou_blanc_redevient_celui_par_defa
                                        std::wstring(300, L' '), douze + L"ED.EXE"}) {
         EXPECT_EQ(Programme_ecrit(champ, defaut), defaut) << champ.size();
     }
+    // Read back, these are nothing too.
+    for (const wchar_t * champ : {L"\xA0 \xA0", L"\"\"", L" \" \" "})
+        EXPECT_EQ(Programme_ecrit(champ, defaut), defaut);
 }
 
 TEST(Valeurs_options, un_nom_de_programme_perd_les_blancs_qui_l_entourent_et_eux_seuls) {
     EXPECT_EQ(Programme_ecrit(L"ed.exe", defaut), L"ed.exe");
     EXPECT_EQ(Programme_ecrit(L"  C:\\Mes outils\\Éd 2.exe /x \t", defaut), L"C:\\Mes outils\\Éd 2.exe /x");
+    EXPECT_EQ(Programme_ecrit(L" \"C:\\Mes outils\\ed.exe\" ", defaut), L"\"C:\\Mes outils\\ed.exe\"");
     EXPECT_EQ(Programme_ecrit(std::wstring(11, L' ') + L"e", defaut), L"e");
     EXPECT_EQ(Programme_ecrit(L"e" + std::wstring(40, L' '), defaut), L"e");
 }
