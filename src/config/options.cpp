@@ -132,12 +132,9 @@ void Ecrire_options(Choix_Options & w) {
     Appliquer_reglages();
 }
 
-// However far the writing went; a file that cannot even be read changes nothing.
+// However far the writing went. A file that cannot even be read changes nothing.
 void Remettre_en_vigueur(Choix_Options & w) {
-    if (Tenter(Appliquer_reglages))
-        Retenir(w);
-    else
-        Rendre(w);
+    if (Tenter(Appliquer_reglages)) Retenir(w);
 }
 
 // --- handlers

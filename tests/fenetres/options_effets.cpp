@@ -173,7 +173,15 @@ TEST_F(Options_effets, chaque_element_a_son_texte_d_aide_et_le_titre_du_repertoi
                           {L"Choix_couleur", aide_options_choix_couleur},
                           {L"Imprimantes", aide_options_imprimantes},
                           {L"OK", aide_options_ok}});
-    fille.Cliquer(L"Label_répertoire");
+    // A click explains again, without a move of the pointer.
+    const POINT titre = Centre(fille.Controle(L"Label_répertoire"));
+    Pointer(titre);
+    ATTENDRE(Lire(L"Fenêtre") == aide_options_répertoire);
+    Frapper(VK_F1);
+    ATTENDRE(Lire(L"Fenêtre").empty());
+    Frapper(VK_F1);
+    ATTENDRE(Lire(L"Fenêtre").starts_with(L"  Vous avez activé"));
+    Pilote::Cliquer(titre);
     ATTENDRE(Lire(L"Fenêtre") == aide_options_répertoire);
     const std::wstring quatre_lignes = aide_options_répertoire;
     EXPECT_EQ(std::count(quatre_lignes.begin(), quatre_lignes.end(), L'\n'), 3);
