@@ -3,10 +3,12 @@ set(KORVANE_SOURCES_LOGIQUE
     src/platform/chemins.cpp
     src/app/cles_profil.cpp
     src/app/libelles_erreur.cpp
+    src/app/palette.cpp
     src/platform/nombres.cpp
     src/browser/groupe_boutons.cpp
     src/browser/ligne_selection.cpp
     src/config/ligne_conf.cpp
+    src/config/valeurs_options.cpp
     src/fileops/jauge.cpp
     src/fileops/lignes_commande.cpp
     src/fileops/questions.cpp
