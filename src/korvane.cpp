@@ -9,6 +9,7 @@
 #include "browser/panneaux.h"
 #include "browser/saisie_chemin.h"
 #include "browser/selection.h"
+#include "config/configuration.h"
 #include "fileops/commandes.h"
 #include "fileops/infos.h"
 #include "forms/apropos.h"
@@ -32,6 +33,7 @@ void Brancher(Gestion_Fichiers & f, Dialogue & d) {
     Brancher_commandes(f);
     Brancher_infos(f);
     Brancher_corbeille(f);
+    Brancher_configuration(f);
     Brancher_chercher(f, {Fichier_srce_PathChange, Montrer_resultats});
     Brancher_dialogue(d);
 }

@@ -29,6 +29,9 @@ inline constexpr const wchar_t * total       = L"Total";
 inline constexpr const wchar_t * bordure     = L"BorderWidth";  // of WIN.INI
 }  // namespace Cle
 
+// Characters of the buffer for a line that the configuration editor writes, terminator included: what it saved is never cut.
+inline constexpr unsigned tampon_valeur = 65535;
+
 void Situer_profil();           // Fichier_ini, Prefixe_fichiers, Unite_programme
 void Lire_iconise();            // Option_iconise
 void Lire_bordure();            // Bordure
