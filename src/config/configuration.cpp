@@ -52,18 +52,44 @@ std::vector<std::wstring> Cles(const Config_Korvane & w) {
     return Decouper_cles(Lire_cles(w.Fichier, w.Section.c_str()));
 }
 
-// What the file has, which another program may have changed meanwhile.
-void Lister(Config_Korvane & w) {
-    w.Tip.Visible(false);
-    w.Effacer.Enabled(false);
-    w.Liste_conf.Clear();
+std::vector<std::wstring> Lignes(const Config_Korvane & w) {
     Exiger_lisible(w.Fichier);
     std::vector<std::wstring> lignes;
     for (const std::wstring & cle : Cles(w)) {
         const std::wstring valeur = Lire_profil(w.Fichier, w.Section.c_str(), cle, L"", tampon_valeur);
         if (!valeur.empty()) lignes.push_back(Ecrire_ligne({cle, valeur}));
     }
-    w.Liste_conf.Ajouter(lignes);
+    return lignes;
+}
+
+void Lister(Config_Korvane & w) {
+    w.Tip.Visible(false);
+    w.Effacer.Enabled(false);
+    w.Liste_conf.Clear();
+    w.Liste_conf.Ajouter(Lignes(w));
+}
+
+std::wstring Cle_de_liste(const Config_Korvane & w, int index) {
+    return Decouper_ligne(w.Liste_conf.List(index)).cle;
+}
+
+// The list follows what was written: some systems keep a section in an order of their own. What another program changed meanwhile
+// shows too.
+void Suivre_changements(Config_Korvane & w, const std::vector<Changement_profil> & changements) {
+    w.Tip.Visible(false);
+    w.Effacer.Enabled(false);
+    for (const Changement_profil & changement : changements) {
+        for (int i = w.Liste_conf.ListCount() - 1; i >= 0; --i) {
+            if (Cle_de_liste(w, i) == changement.cle) w.Liste_conf.RemoveItem(i);
+        }
+        if (changement.valeur) w.Liste_conf.AddItem(Ecrire_ligne({changement.cle, *changement.valeur}));
+    }
+    w.Liste_conf.Tout_selectionner(false);
+    std::vector<std::wstring> montrees, lues = Lignes(w);
+    for (int i = 0; i < w.Liste_conf.ListCount(); ++i) montrees.push_back(w.Liste_conf.List(i));
+    std::sort(montrees.begin(), montrees.end());
+    std::sort(lues.begin(), lues.end());
+    if (montrees != lues) Lister(w);
 }
 
 void Montrer_rubrique(Config_Korvane & w, const Rubrique & rubrique) {
@@ -76,9 +102,7 @@ void Montrer_rubrique(Config_Korvane & w, const Rubrique & rubrique) {
     Operer(w, L"CONFIG-Lecture section", [&] { Lister(w); });
 }
 
-std::wstring Cle_choisie(const Config_Korvane & w) {
-    return Decouper_ligne(w.Liste_conf.List(w.Liste_conf.ListIndex())).cle;
-}
+std::wstring Cle_choisie(const Config_Korvane & w) { return Cle_de_liste(w, w.Liste_conf.ListIndex()); }
 
 void Liste_conf_Click(Config_Korvane & w) {
     if (w.Rechoisit || w.Liste_conf.ListIndex() < 0) return;
@@ -91,7 +115,7 @@ void Liste_conf_Click(Config_Korvane & w) {
 void Lister_et_rechoisir(Config_Korvane & w, const std::wstring & cle) {
     Lister(w);
     for (int i = 0; i < w.Liste_conf.ListCount(); ++i) {
-        if (cle.empty() || Decouper_ligne(w.Liste_conf.List(i)).cle != cle) continue;
+        if (cle.empty() || Cle_de_liste(w, i) != cle) continue;
         w.Rechoisit = true;
         w.Liste_conf.ListIndex(i);
         w.Rechoisit = false;
@@ -162,11 +186,11 @@ void Enregistrer_Click(Config_Korvane & w) {
         Operer(
             w, L"CONFIG-Enregistrer",
             [&] {
-                Changer_profil(w.Fichier, w.Section.c_str(),
-                               Changements(w, Decouper_ligne(w.Ligne_conf.Text())));
+                const auto changements = Changements(w, Decouper_ligne(w.Ligne_conf.Text()));
+                Changer_profil(w.Fichier, w.Section.c_str(), changements);
                 Noter_changement(w);
                 w.Ligne_conf.Text(L"");
-                Lister(w);
+                Suivre_changements(w, changements);
                 w.Liste_conf.TopIndex(w.Liste_conf.ListCount() - 1);
             },
             [&] { Lister_et_rechoisir(w, choisie); });
@@ -180,11 +204,10 @@ void Effacer_Click(Config_Korvane & w) {
     Operer(
         w, L"CONFIG-Effacer",
         [&] {
-            const int premiere = w.Liste_conf.TopIndex();
-            Ecrire_profil(w.Fichier, w.Section.c_str(), choisie, std::nullopt);
+            const std::vector<Changement_profil> changements{{choisie, std::nullopt}};
+            Changer_profil(w.Fichier, w.Section.c_str(), changements);
             Noter_changement(w);
-            Lister(w);
-            w.Liste_conf.TopIndex(premiere);
+            Suivre_changements(w, changements);
         },
         [&] { Lister_et_rechoisir(w, choisie); });
     w.Ligne_conf.SetFocus();
@@ -204,7 +227,7 @@ void Brancher(Config_Korvane & w) {
     Bouton_option * const options[] = {&w.Boutons, &w.Sélections, &w.Associer};
     for (std::size_t i = 0; i < std::size(options); ++i)
         options[i]->Click = [&w, &rubrique = rubriques[i]] { Montrer_rubrique(w, rubrique); };
-    w.Ligne_conf.Limite(tampon_valeur - 1);
+    w.Ligne_conf.Limite(static_cast<int>(plus_longue_valeur));
     w.Ligne_conf.Change = [&w] { Ligne_conf_Change(w); };
     w.Liste_conf.Click  = [&w] { Liste_conf_Click(w); };
     // Goes on with the line chosen, where Enter would save it as it is.

@@ -72,20 +72,36 @@ void Vider_memoire(const std::string & nom) {
         WritePrivateProfileStringA(nullptr, nullptr, nullptr, nom.c_str());
 }
 
-// One call of the system, and a look at what it did: not every failure is reported.
-void Ecrire(const std::string & nom, const std::string & section, const Changement_profil & changement,
-            const std::wstring & fichier) {
-    const std::string cle    = En_ansi(changement.cle);
-    const std::string octets = changement.valeur ? En_ansi(Valeur_protegee(*changement.valeur)) : "";
-    const char *      valeur = changement.valeur ? octets.c_str() : nullptr;
-    const BOOL        ecrit  = nom == win_ini
-                                   ? WriteProfileStringA(section.c_str(), cle.c_str(), valeur)
-                                   : WritePrivateProfileStringA(section.c_str(), cle.c_str(), valeur, nom.c_str());
+// No value removes the key.
+void Poser(const std::string & nom, const std::string & section, const std::string & cle, const char * valeur,
+           const std::wstring & fichier) {
+    const BOOL ecrit = nom == win_ini
+                           ? WriteProfileStringA(section.c_str(), cle.c_str(), valeur)
+                           : WritePrivateProfileStringA(section.c_str(), cle.c_str(), valeur, nom.c_str());
     if (!ecrit) Refuser(GetLastError(), fichier);
     Vider_memoire(nom);
-    if (changement.valeur &&
-        Lire(nom, section, cle.c_str(), "", octets.size() + 2) != En_ansi(*changement.valeur))
-        Refuser(ERROR_WRITE_FAULT, fichier);
+}
+
+// Writes and looks at what is there: not every failure is reported. Where the system keeps WIN.INI elsewhere than in a file, it
+// takes nothing off a value, and what would protect it stays in it.
+void Ecrire(const std::string & nom, const std::string & section, const Changement_profil & changement,
+            const std::wstring & fichier) {
+    const std::string cle = En_ansi(changement.cle);
+    if (!changement.valeur) {
+        // Some systems refuse to remove a key that is not there.
+        if (Valeur_presente(nom, section, cle)) Poser(nom, section, cle, nullptr, fichier);
+        return;
+    }
+    const std::string valeur   = En_ansi(*changement.valeur);
+    const std::string formes[] = {En_ansi(Valeur_protegee(*changement.valeur)), valeur};
+    for (const std::string & forme : formes) {
+        Poser(nom, section, cle, forme.c_str(), fichier);
+        if (Lire(nom, section, cle.c_str(), "", forme.size() + 2) == valeur) return;
+    }
+    // Nor does it keep outer blanks there, which nothing can then protect.
+    const std::wstring lue = De_ansi(Lire(nom, section, cle.c_str(), "", valeur.size() + 2));
+    if (nom == win_ini && lue == Sans_blancs(*changement.valeur)) return;
+    Refuser(ERROR_WRITE_FAULT, fichier);
 }
 
 void Changer_sur_place(const std::string & nom, const std::string & section,
@@ -166,11 +182,13 @@ bool Copiable(const std::string & nom) {
            (attributs & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
 }
 
-// What a "?" would change into another name.
-bool Tiennent_en_ansi(const std::vector<Changement_profil> & changements) {
-    return std::all_of(changements.begin(), changements.end(), [](const Changement_profil & c) {
-        return Tient_en_ansi(c.cle) && (!c.valeur || Tient_en_ansi(*c.valeur));
-    });
+void Exiger_possibles(const std::vector<Changement_profil> & changements, const std::wstring & fichier) {
+    for (const Changement_profil & c : changements) {
+        if (!Tient_en_ansi(c.cle) || (c.valeur && !Tient_en_ansi(*c.valeur)))
+            Refuser(ERROR_NO_UNICODE_TRANSLATION, fichier);
+        if (std::max(c.cle.size(), c.valeur ? c.valeur->size() : 0) > plus_longue_valeur)
+            throw Erreur_execution(Numero::depassement, ERROR_BUFFER_OVERFLOW, fichier);
+    }
 }
 
 }  // namespace
@@ -212,7 +230,8 @@ void Exiger_lisible(const std::wstring & fichier) {
 void Changer_profil(const std::wstring & fichier, const wchar_t * section,
                     const std::vector<Changement_profil> & changements) {
     const auto nom = Nom_de_fichier(fichier);
-    if (!nom || !Tiennent_en_ansi(changements)) Refuser(ERROR_NO_UNICODE_TRANSLATION, fichier);
+    if (!nom) Refuser(ERROR_NO_UNICODE_TRANSLATION, fichier);
+    Exiger_possibles(changements, fichier);
     // A file that cannot be written is not always reported by the call: its attribute is looked at first.
     const DWORD attributs = *nom == win_ini ? 0 : GetFileAttributesA(nom->c_str());
     if (attributs != INVALID_FILE_ATTRIBUTES && (attributs & FILE_ATTRIBUTE_READONLY) != 0)

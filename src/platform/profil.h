@@ -17,6 +17,9 @@ std::wstring Lire_cles(const std::wstring & fichier, const wchar_t * section);
 // word. A file that does not exist is an empty one.
 void Exiger_lisible(const std::wstring & fichier);
 
+// Characters of a value, at most, that the system's functions write whole; they read longer ones.
+inline constexpr std::size_t plus_longue_valeur = 32000;
+
 struct Changement_profil {
     std::wstring                cle;
     std::optional<std::wstring> valeur;  // none removes the key
@@ -25,7 +28,7 @@ struct Changement_profil {
 // disk or a power cut leaves the former. WIN.INI, which the system may keep elsewhere, and a file in a directory that takes no
 // other are changed in place; a key changed before a failure is given its value back. What Lire_profil gives afterwards is what
 // was written, outer blanks and quotes included. Errors: 61 disk full; 75 when the file cannot be written, or when the code page
-// cannot hold a key or a value: a "?" in their place would be another key, another program.
+// cannot hold a key or a value: a "?" in their place would be another key, another program; 6 when a value is too long.
 void Changer_profil(const std::wstring & fichier, const wchar_t * section,
                     const std::vector<Changement_profil> & changements);
 // The same for one key.

@@ -313,8 +313,8 @@ TEST_F(Configuration, les_associations_vont_dans_win_ini_et_ne_demandent_pas_de_
     Enregistrer(editeur, L"md =C:\\ED.EXE ^.md");
     Choisir_ligne(editeur, 0);
     Enregistrer(editeur, L"doc=C:\\WINDOWS\\WRITE.EXE ^.doc");
-    Attendre_lignes(editeur,
-                    {L"bmp=C:\\P.EXE ^.bmp", L"md=C:\\ED.EXE ^.md", L"doc=C:\\WINDOWS\\WRITE.EXE ^.doc"});
+    Attendre_lignes(editeur, {L"wri=C:\\WINDOWS\\WRITE.EXE ^.wri", L"md=C:\\ED.EXE ^.md",
+                              L"doc=C:\\WINDOWS\\WRITE.EXE ^.doc"});
     Choisir_ligne(editeur, 0);
     editeur.Cliquer(L"Effacer");
     Attendre_lignes(editeur, {L"md=C:\\ED.EXE ^.md", L"doc=C:\\WINDOWS\\WRITE.EXE ^.doc"});
@@ -378,7 +378,7 @@ TEST_F(Configuration, deux_cents_lignes_et_mille_caracteres_restent_entiers_dans
     const auto editeur = Lancer_et_ouvrir();
     Montrer(editeur, L"Sélections");
     Attendre_lignes(editeur, attendues);
-    const std::wstring tres_longue(60000, L'à');
+    const std::wstring tres_longue(30000, L'à');
     Enregistrer(editeur, L"Très longue=" + tres_longue);
     attendues.push_back(L"Très longue=" + tres_longue);
     Choisir_ligne(editeur, 100);
