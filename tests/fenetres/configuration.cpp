@@ -1,6 +1,7 @@
 #include "fenetres/configuration.h"
 
 #include <algorithm>
+#include <commctrl.h>
 #include <sstream>
 
 using namespace Pilote;
@@ -138,11 +139,24 @@ HWND Configuration::Attendre_dialogue_systeme(const std::wstring & titre, const 
     return dialogue;
 }
 
-void Configuration::Choisir_fichier(HWND dialogue, const std::wstring & chemin) {
+void Configuration::Proposer(HWND dialogue, const std::wstring & chemin) {
     HWND champ = GetDlgItem(dialogue, champ_nom);
     while (HWND enfant = FindWindowExW(champ, nullptr, nullptr, nullptr)) champ = enfant;
     SendMessageW(champ, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(chemin.c_str()));
     PostMessageW(dialogue, WM_COMMAND, IDOK, 0);
+}
+
+int Configuration::Fichiers_montres(HWND dialogue) {
+    int nombre = -1;
+    Parcourir(dialogue, [&](HWND fenetre) {
+        if (Classe(fenetre) == L"SysListView32")
+            nombre = static_cast<int>(SendMessageW(fenetre, LVM_GETITEMCOUNT, 0, 0));
+    });
+    return nombre;
+}
+
+void Configuration::Choisir_fichier(HWND dialogue, const std::wstring & chemin) {
+    Proposer(dialogue, chemin);
     ATTENDRE(Dialogue_systeme() == nullptr && GetForegroundWindow() == Editeur().Fenetre());
 }
 
@@ -350,16 +364,20 @@ TEST_F(Configuration, parcourir_compose_une_association_avec_sa_marque) {
     const Textes       types{L"Programmes", L"Tous les fichiers (*.*)"};
     const std::wstring profond = dossier / (std::wstring(60, L'p') + L"\\" + std::wstring(60, L'q'));
     Creer_dossier(profond);
-    Creer_fichier(profond + L"\\ED.EXE", "x");
+    for (const wchar_t * nom : {L"ED.EXE", L"b.com", L"c.bat", L"d.pif", L"e.txt", L"f.exe.doc"})
+        Creer_fichier(profond + L"\\" + nom, "x");
     const auto editeur = Lancer_et_ouvrir();
     Montrer(editeur, L"Associer");
     for (const wchar_t * ligne : {L"txt=", L"md =ancien ^.md"}) {
         const std::wstring cle = ligne[0] == L't' ? L"txt" : L"md";
         Coller(editeur, ligne);
         editeur.Cliquer(L"Parcourir");
-        Choisir_fichier(
-            Attendre_dialogue_systeme(L"Parcourir pour les fichiers de type '" + cle + L"'", types),
-            profond + L"\\ED.EXE");
+        const HWND dialogue =
+            Attendre_dialogue_systeme(L"Parcourir pour les fichiers de type '" + cle + L"'", types);
+        // Programs of every kind, and they alone.
+        Proposer(dialogue, profond);
+        ATTENDRE(Fichiers_montres(dialogue) == 4);
+        Choisir_fichier(dialogue, profond + L"\\ED.EXE");
         ATTENDRE(editeur.Lire(L"Ligne_conf") == cle + L"=" + profond + L"\\ED.EXE ^." + cle);
         editeur.Cliquer(L"Enregistrer");
         ATTENDRE(Association(cle.c_str()) == profond + L"\\ED.EXE ^." + cle);

@@ -36,8 +36,11 @@ protected:
 
     HWND Dialogue_systeme() const;
     HWND Attendre_dialogue_systeme(const std::wstring & titre, const Textes & types);
-    void Choisir_fichier(HWND dialogue, const std::wstring & chemin);
-    void Annuler_dialogue(HWND dialogue);
+    // Types a path and presses OK: the dialog shows a directory, or closes on a file.
+    void       Proposer(HWND dialogue, const std::wstring & chemin);
+    static int Fichiers_montres(HWND dialogue);
+    void       Choisir_fichier(HWND dialogue, const std::wstring & chemin);
+    void       Annuler_dialogue(HWND dialogue);
 
 private:
     static void Oublier_associations();

@@ -1,6 +1,9 @@
+#include "coupures/interception.h"
 #include "platform/poignee.h"
 #include "platform/profil.h"
 #include "services/banc.h"
+
+using namespace Interception;
 
 namespace {
 
@@ -142,6 +145,29 @@ TEST_F(Profil, un_changement_refuse_laisse_le_fichier_entier) {
         EXPECT_EQ(avant, Contenu(ini_));
     }
     EXPECT_FALSE(Present(ini_ + L".krv~"));
+}
+
+// Killed or refused at any call of its own, the program leaves one of the two files, whole.
+TEST_F(Profil, une_mort_ou_une_panne_a_tout_appel_laisse_l_ancien_fichier_ou_le_nouveau) {
+    const std::string avant = "[Boutons]\r\nUn=1\r\nDeux=2\r\n[Fin]\r\nx=y\r\n";
+    const std::string apres = "[Boutons]\r\nDeux=2\r\nTrois=3\r\n[Fin]\r\nx=y\r\n";
+    for (const Effet effet :
+         {Effet::mourir_avant, Effet::mourir_pendant, Effet::mourir_apres, Effet::echouer}) {
+        bool atteint = true;
+        for (unsigned rang = 1; atteint; ++rang) {
+            Poser(ini_, avant);
+            int erreur              = 0;
+            atteint                 = Jouer({effet, rang, ERROR_DISK_FULL, false}, Fin::fil, [&] {
+                          erreur = Numero_leve([&] {
+                              Changer_profil(ini_, L"Boutons", {{L"Trois", L"3"}, {L"Un", std::nullopt}});
+                          });
+                      }).atteint;
+            const std::string reste = Contenu(ini_);
+            EXPECT_TRUE(reste == apres || (reste == avant && (erreur != 0 || effet != Effet::echouer)))
+                << rang << " " << reste;
+            EXPECT_TRUE(atteint || rang > 5) << rang;
+        }
+    }
 }
 
 TEST_F(Profil, une_copie_abandonnee_ne_gene_pas_et_une_copie_impossible_non_plus) {
