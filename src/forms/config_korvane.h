@@ -24,8 +24,8 @@ struct Config_Korvane : Fenetre {
     Bouton_commande Fin        {*this, {L"Fin",         5895, 4260, 1725,  375, L"&Fin",          aide_conf_fin}};
     // clang-format on
 
-    std::wstring Section;             // being edited
-    std::wstring Fichier;             // that holds it
-    bool         Modifie    = false;  // a line of the settings file was written or erased since the window opened
-    bool         Rechoisit  = false;  // the program is choosing the entry again, not the user
+    std::wstring Section;    // being edited
+    std::wstring Fichier;    // that holds it
+    bool Modifie   = false;  // a line of the settings file was written or erased since the window opened
+    bool Rechoisit = false;  // the program is choosing the entry again, not the user
 };
