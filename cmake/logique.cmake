@@ -16,6 +16,7 @@ set(KORVANE_SOURCES_LOGIQUE
     src/platform/motifs.cpp
     src/platform/numeros.cpp
     src/platform/utf8.cpp
+    src/platform/valeur_profil.cpp
     src/recycle/fiche.cpp
     src/recycle/lignes.cpp
     src/recycle/purge.cpp

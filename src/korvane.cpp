@@ -11,6 +11,7 @@
 #include "browser/panneaux.h"
 #include "browser/saisie_chemin.h"
 #include "browser/selection.h"
+#include "config/configuration.h"
 #include "config/options.h"
 #include "fileops/commandes.h"
 #include "fileops/infos.h"
@@ -38,6 +39,7 @@ void Brancher(Gestion_Fichiers & f, Dialogue & d) {
     Brancher_commandes(f);
     Brancher_infos(f);
     Brancher_corbeille(f);
+    Brancher_configuration(f);
     Brancher_chercher(f, {Fichier_srce_PathChange, Montrer_resultats});
     Brancher_options(f);
     Brancher_dialogue(d);

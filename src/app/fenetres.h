@@ -18,6 +18,7 @@ struct Fenetres_programme {
     std::unique_ptr<Fenetre> cde_chercher;
     std::unique_ptr<Fenetre> cherche_fichier;
     std::unique_ptr<Fenetre> options;
+    std::unique_ptr<Fenetre> config_korvane;
 
     void Fermer_filles() {
         corbeille.reset();
@@ -25,6 +26,7 @@ struct Fenetres_programme {
         cde_chercher.reset();
         cherche_fichier.reset();
         options.reset();
+        config_korvane.reset();
     }
 };
 

@@ -116,5 +116,5 @@ std::vector<std::wstring> Cles_section(const wchar_t * section) {
 }
 
 std::wstring Valeur_cle(const wchar_t * section, const std::wstring & cle) {
-    return Lire(section, cle, L"", tampon_texte);
+    return Lire(section, cle, L"", tampon_valeur);
 }

@@ -37,6 +37,9 @@ inline constexpr const wchar_t * visualiseur = L"PELMIRA.EXE";
 // The value of a key of the options, cut to its buffer, or its default.
 std::wstring Lire_option(const wchar_t * cle);
 
+// Characters of the buffer for a line that the configuration editor writes, terminator included: what it saved is never cut.
+inline constexpr unsigned tampon_valeur = 65535;
+
 void Situer_profil();           // Fichier_ini, Prefixe_fichiers, Unite_programme
 void Lire_iconise();            // Option_iconise
 void Lire_bordure();            // Bordure
