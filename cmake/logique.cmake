@@ -20,7 +20,9 @@ set(KORVANE_SOURCES_LOGIQUE
     src/search/arbre.cpp
     src/search/modeles.cpp
     src/search/nom_repertoire.cpp
-    src/texte/codage.cpp)
+    src/texte/codage.cpp
+    src/texte/lignes.cpp
+    src/texte/mise_en_page.cpp)
 list(TRANSFORM KORVANE_SOURCES_LOGIQUE PREPEND "${CMAKE_SOURCE_DIR}/")
 
 add_library(logique STATIC ${KORVANE_SOURCES_LOGIQUE})

@@ -45,7 +45,7 @@ korvane_couche(gestionnaire app browser fileops recycle search config forms)
 
 get_target_property(genre services TYPE)
 if(genre STREQUAL "STATIC_LIBRARY")
-    target_link_libraries(services PUBLIC mpr shell32 version winspool)
+    target_link_libraries(services PUBLIC gdi32 mpr shell32 version winspool)
 endif()
 get_target_property(genre boite_a_outils TYPE)
 if(genre STREQUAL "STATIC_LIBRARY")
