@@ -1,4 +1,5 @@
 #include "platform/chemins.h"
+#include "platform/erreur.h"
 #include "platform/imprimante.h"
 #include "platform/textes.h"
 #include "toolkit/boites.h"
@@ -28,7 +29,13 @@ void Seance::Imprimer() {
         return;
     }
     if (!Confirmer(document_->Longueur(), document_->Mode() == Affichage::hexa) || !Utilisable()) return;
-    Imprimer_document(L"Visionneuse - " + std::wstring(Nom_du_chemin(document_->Chemin())));
+    try {
+        Imprimer_document(L"Visionneuse - " + std::wstring(Nom_du_chemin(document_->Chemin())));
+    } catch (const Erreur_execution & erreur) {
+        Dire_etat(L"L'impression a échoué.");
+        Message_boite(L"L'impression a échoué.\r(" + erreur.Texte() + L")", Boite::exclamation, L"Imprimer");
+        return;
+    }
     Dire_etat(arret_ ? L"Impression arrêtée." : L"Impression terminée.");
 }
 
@@ -39,12 +46,15 @@ void Seance::Imprimer_document(const std::wstring & titre) {
     Imprimante       imprimante(titre);
     const auto       rangees  = document_->Rangees(octets, static_cast<unsigned>(imprimante.Colonnes()));
     std::uint64_t    position = rangees->Debut();
-    while (position < rangees->Longueur()) {
+    while (position < rangees->Longueur() && !imprimante.Abandonnee()) {
         Rangee rangee = rangees->Lire(position);
         std::erase(rangee.texte, suite_de_caractere);
         imprimante.Ligne(rangee.texte);
         position = rangee.suite;
         if (!Continuer(L"Impression", position)) return;
     }
-    imprimante.Terminer();
+    // Given up by the user when the printer asked where to put it.
+    arret_ = imprimante.Abandonnee();
+    if (!arret_) imprimante.Terminer();
+    arret_ = arret_ || imprimante.Abandonnee();
 }
