@@ -72,7 +72,8 @@ void Vue_texte::Mesurer() {
     pas_y_ = std::max<int>(mesures.tmHeight, 1);
     RECT interieur{};
     GetClientRect(Poignee(), &interieur);
-    largeur_ = interieur.right;
+    retrait_ = Pixels(45);
+    largeur_ = interieur.right - retrait_;
     hauteur_ = interieur.bottom;
 }
 
@@ -300,7 +301,7 @@ std::uint64_t Vue_texte::Position_sous(int x, int y) const {
     if (rangees_.empty()) return premiere_;
     const int      rang    = std::clamp(y / pas_y_, 0, static_cast<int>(rangees_.size()) - 1);
     const Rangee & rangee  = rangees_[static_cast<std::size_t>(rang)];
-    const int      colonne = std::max(colonne_ + (x + pas_x_ / 2) / pas_x_, 0);
+    const int      colonne = std::max(colonne_ + (x - retrait_ + pas_x_ / 2) / pas_x_, 0);
     const auto     place   = std::min(static_cast<std::size_t>(colonne), rangee.octets.size() - 1);
     const auto     trouve =
         std::find_if(rangee.octets.begin() + static_cast<std::ptrdiff_t>(place), rangee.octets.end(),

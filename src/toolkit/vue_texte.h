@@ -88,6 +88,7 @@ private:
     bool                tire_   = false;           // a drag is on
     int                 reste_  = 0;               // wheel movement short of a notch
     void *              police_ = nullptr;
-    int                 pas_x_ = 8, pas_y_ = 16;  // pixels of a column and of a row
-    int                 largeur_ = 0, hauteur_ = 0;
+    int                 pas_x_ = 8, pas_y_ = 16;     // pixels of a column and of a row
+    int                 retrait_ = 0;                // pixels left blank at the left edge
+    int                 largeur_ = 0, hauteur_ = 0;  // pixels for the rows
 };

@@ -40,7 +40,7 @@ void Vue_texte::Peindre_troncon(void * dessin, const Rangee & rangee, std::size_
             pas.push_back(pas_x_);
         }
     }
-    const int  x = (static_cast<int>(de) - colonne_) * pas_x_;
+    const int  x = retrait_ + (static_cast<int>(de) - colonne_) * pas_x_;
     const RECT place{x, y, x + static_cast<int>(a - de) * pas_x_, y + pas_y_};
     SetTextColor(hdc, choisi ? GetSysColor(COLOR_HIGHLIGHTTEXT) : Rouge_vert_bleu(ForeColor()));
     SetBkColor(hdc, choisi ? GetSysColor(COLOR_HIGHLIGHT) : Rouge_vert_bleu(BackColor()));
@@ -60,7 +60,8 @@ void Vue_texte::Peindre_rangee(void * dessin, const Rangee & rangee, int y, int 
         Peindre_troncon(dessin, rangee, colonne, apres, y, choisi);
         colonne = apres;
     }
-    const int x = (static_cast<int>(std::max(colonne, fin)) - colonne_) * pas_x_;
+    const int x = retrait_ + (static_cast<int>(std::max(colonne, fin)) - colonne_) * pas_x_;
+    Remplir(static_cast<HDC>(dessin), {0, y, retrait_, y + pas_y_}, Rouge_vert_bleu(BackColor()));
     Remplir(static_cast<HDC>(dessin), {std::max(x, 0), y, droite, y + pas_y_}, Rouge_vert_bleu(BackColor()));
 }
 

@@ -9,16 +9,16 @@ struct Fenetre_visionneuse : Fenetre {
     Fenetre_visionneuse() : Fenetre(L"Visionneuse", L"Visionneuse", 11100, 7200, Bordure::principale) {}
 
     // clang-format off
-    Etiquette       Titre_fichiers {*this, {L"Titre_fichiers",   120,  165,   840,  255, L"Fichier :"}};
-    Liste_combinee  Fichiers       {*this, {L"Fichiers",         990,  120,  6270,  330}, false};
+    Etiquette       Titre_fichiers {*this, {L"Titre_fichiers",   120,  165,   960,  255, L"Fichier :"}};
+    Liste_combinee  Fichiers       {*this, {L"Fichiers",         1110,  120,  6150,  330}, false};
     Bouton_commande Ouvrir         {*this, {L"Ouvrir",          7380,  105,  1140,  360, L"&Ouvrir..."}};
     Bouton_commande Imprimer       {*this, {L"Imprimer",        8610,  105,  1140,  360, L"&Imprimer"}};
     Bouton_commande Fermer         {*this, {L"Fermer",          9840,  105,  1140,  360, L"&Fermer"}};
-    Etiquette       Titre_affichage{*this, {L"Titre_affichage",  120,  615,   840,  255, L"Affichage :"}};
-    Liste_combinee  Affichage      {*this, {L"Affichage",        990,  570,  1920,  330}, false};
-    Case_a_cocher   Retour         {*this, {L"Retour",          3060,  585,  1650,  300, L"Retour à la &ligne"}};
-    Etiquette       Titre_recherche{*this, {L"Titre_recherche", 4830,  615,   990,  255, L"Rechercher :"}};
-    Champ_texte     Recherche      {*this, {L"Recherche",       5850,  570,  2670,  330}};
+    Etiquette       Titre_affichage{*this, {L"Titre_affichage",  120,  615,   960,  255, L"Affichage :"}};
+    Liste_combinee  Affichage      {*this, {L"Affichage",        1110,  570,  1860,  330}, false};
+    Case_a_cocher   Retour         {*this, {L"Retour",          3090,  585,  1605,  300, L"Retour à la &ligne"}};
+    Etiquette       Titre_recherche{*this, {L"Titre_recherche", 4755,  615,  1110,  255, L"Rechercher :"}};
+    Champ_texte     Recherche      {*this, {L"Recherche",       5880,  570,  2640,  330}};
     Bouton_commande Suivant        {*this, {L"Suivant",         8610,  555,  1140,  360, L"&Suivant"}};
     Bouton_commande Arrêter        {*this, {L"Arrêter",         9840,  555,  1140,  360, L"&Arrêter"}};
     Vue_texte       Vue            {*this, {L"Vue",                0, 1020, 11100, 5790}};

@@ -58,8 +58,15 @@ void Seance::Brancher() {
         refus  = occupee_;
         arret_ = fermer_ = occupee_;
     };
-    f.Fichiers.Click  = [this] { Proteger([this] { Montrer(f.Fichiers.ListIndex()); }); };
-    f.Affichage.Click = [this] { Proteger([this] { Changer_mode(); }); };
+    // Once chosen, the keys go through what is shown, not through the list.
+    f.Fichiers.Click = [this] {
+        Proteger([this] { Montrer(f.Fichiers.ListIndex()); });
+        f.Vue.SetFocus();
+    };
+    f.Affichage.Click = [this] {
+        Proteger([this] { Changer_mode(); });
+        f.Vue.SetFocus();
+    };
     f.Retour.Click    = [this] { Proteger([this] { Reprendre_contenu(); }); };
     f.Vue.Defile      = [this] { Dire_position(); };
     f.Vue.Taille      = [this] { Proteger([this] { Reprendre_contenu(); }); };
