@@ -11,7 +11,7 @@ file(GLOB pilote CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/pilote/*.cpp")
 if(pilote AND TARGET gtest)
     add_library(pilote STATIC ${pilote})
     target_include_directories(pilote PUBLIC "${CMAKE_SOURCE_DIR}/tests")
-    target_link_libraries(pilote PUBLIC reglages GTest::gtest gdi32 user32 shell32)
+    target_link_libraries(pilote PUBLIC reglages GTest::gtest gdi32 user32 shell32 winspool)
 endif()
 
 # Programs cut at their calls to the system.
@@ -45,10 +45,10 @@ if(NOT TARGET gtest)
 endif()
 
 file(GLOB essais CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/tests/services/*.cpp")
-if(essais)
+if(essais AND TARGET pilote)
     add_executable(tests_services ${essais})
     target_include_directories(tests_services PRIVATE "${CMAKE_SOURCE_DIR}/tests")
-    target_link_libraries(tests_services PRIVATE coupures gestionnaire boite_a_outils services logique GTest::gtest_main)
+    target_link_libraries(tests_services PRIVATE pilote coupures gestionnaire boite_a_outils services logique GTest::gtest_main)
     add_dependencies(tests_services coupeur)
 endif()
 

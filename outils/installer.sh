@@ -4,7 +4,7 @@
 #   construire     the Windows compiler and the build tools
 #   executer       Wine and fonts
 #   demonstration  a screen of its own and what drives the program there
-#   essais         analyses, sanitizers, fuzzing, drives with faults
+#   essais         analyses, sanitizers, fuzzing, drives with faults, reading what was printed
 set -euo pipefail
 
 paquets=()
@@ -15,7 +15,7 @@ for role in "$@"; do
         demonstration) paquets+=(xvfb xauth imagemagick googletest) ;;
         essais)
             paquets+=(g++ clang clang-format clang-tidy libclang-rt-14-dev googletest xvfb xauth imagemagick)
-            paquets+=(util-linux xfsprogs dosfstools e2fsprogs)
+            paquets+=(util-linux xfsprogs dosfstools e2fsprogs ghostscript poppler-utils)
             ;;
         *)
             echo "rôle inconnu : $role" >&2

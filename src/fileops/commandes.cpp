@@ -25,6 +25,7 @@ void Brancher_commandes(Gestion_Fichiers & f) {
     f.Supprimer.Brancher(Supprimer_Click);
     f.Renommer.Brancher(Renommer_Click);
     f.Créer.Brancher(Créer_Click);
+    f.Imprimer.Brancher(Imprimer_Click);
     f.Répertoire_srce.KeyDown = Sur_suppr(Supprimer_Click);
     f.Fichier_srce.KeyDown    = Sur_suppr(Effacer_du_clavier);
     f.Fichier_sél.KeyDown     = Sur_suppr(Effacer_du_clavier);

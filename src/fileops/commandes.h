@@ -11,3 +11,4 @@ void Effacer_Click();    // the selected files, into the recycle bin when it can
 void Supprimer_Click();  // the SOURCE directory itself
 void Renommer_Click();   // the selected files; in directory mode the SOURCE directory
 void Créer_Click();      // a directory in the SOURCE directory
+void Imprimer_Click();   // the selected files as text, one print job each

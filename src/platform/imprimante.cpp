@@ -21,15 +21,18 @@ struct Regle_police {
     static void Fermer(Type police) noexcept { DeleteObject(police); }
 };
 
+// What the system does not say, or says of its own handle, tells the user nothing.
 [[noreturn]] void Lever(DWORD code) {
-    throw Erreur_execution(Numero::entree_sortie, code != 0 ? code : DWORD{ERROR_GEN_FAILURE}, {});
+    const bool muet = code == 0 || code == ERROR_INVALID_HANDLE;
+    throw Erreur_execution(Numero::entree_sortie, muet ? DWORD{ERROR_WRITE_FAULT} : code, {});
 }
 
 std::wstring Imprimante_par_defaut() {
+    // The code that goes with it is that of a missing file.
     DWORD longueur = 0;
     GetDefaultPrinterW(nullptr, &longueur);
     std::wstring nom(longueur, L'\0');
-    if (longueur == 0 || !GetDefaultPrinterW(nom.data(), &longueur)) Lever(ERROR_PRINTER_NOT_FOUND);
+    if (longueur == 0 || !GetDefaultPrinterW(nom.data(), &longueur)) Lever(ERROR_INVALID_PRINTER_NAME);
     nom.resize(longueur - 1);
     return nom;
 }
@@ -51,10 +54,9 @@ Feuille Feuille_de(HDC contexte) {
             lire(HORZRES),       lire(VERTRES),        lire(LOGPIXELSX),      lire(LOGPIXELSY)};
 }
 
-HFONT Faire_police(const Corps & corps) {
-    return CreateFontW(-corps.hauteur, corps.largeur, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                       OUT_TT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, FIXED_PITCH | FF_MODERN,
-                       L"Courier New");
+HFONT Faire_police(int corps) {
+    return CreateFontW(-corps, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_TT_PRECIS,
+                       CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, FIXED_PITCH | FF_MODERN, L"Courier New");
 }
 }  // namespace
 
@@ -63,9 +65,9 @@ struct Imprimante::Etat {
     explicit Etat(const std::wstring & titre);
 
     void Imprimer_page();
-    void Ajuster_police();
+    bool Ajuster_police();
     void Choisir_police(std::size_t colonnes);
-    void Ecrire(const std::wstring & ligne, int y) const;
+    void Ecrire(const std::wstring & ligne, int y, bool couper) const;
     bool Tient() const;
 
     Proprietaire<Regle_police>   police;  // outlives the context that it is selected into
@@ -103,21 +105,22 @@ bool Imprimante::Etat::Tient() const {
     });
 }
 
-void Imprimante::Etat::Ajuster_police() {
+// False when even the smallest font passes the margin.
+bool Imprimante::Etat::Ajuster_police() {
     std::size_t longueur = 0;
     for (const std::wstring & ligne : lignes) longueur = std::max(longueur, ligne.size());
     std::size_t colonnes = Colonnes_pour(page, longueur);
-    Choisir_police(colonnes);
-    while (colonnes < colonnes_maximales && !Tient()) {
-        colonnes = Colonnes_pour(page, colonnes + 1);
+    for (;; colonnes = Colonnes_pour(page, colonnes + 1)) {
         Choisir_police(colonnes);
+        if (Tient()) return true;
+        if (colonnes == colonnes_maximales) return false;
     }
 }
 
-void Imprimante::Etat::Ecrire(const std::wstring & ligne, int y) const {
+void Imprimante::Etat::Ecrire(const std::wstring & ligne, int y, bool couper) const {
     if (ligne.empty()) return;
     const RECT place{page.gauche, y, page.gauche + page.largeur, y + page.interligne};
-    if (!ExtTextOutW(contexte.Valeur(), page.gauche, y, ETO_CLIPPED, &place, ligne.c_str(),
+    if (!ExtTextOutW(contexte.Valeur(), page.gauche, y, couper ? ETO_CLIPPED : 0U, &place, ligne.c_str(),
                      static_cast<UINT>(ligne.size()), nullptr))
         Lever(GetLastError());
 }
@@ -126,11 +129,11 @@ void Imprimante::Etat::Imprimer_page() {
     if (lignes.empty()) return;
     SetLastError(0);
     if (StartPage(contexte.Valeur()) <= 0) Lever(GetLastError());
-    Ajuster_police();
+    const bool couper = !Ajuster_police();
     SetBkMode(contexte.Valeur(), TRANSPARENT);
     int y = page.haut;
     for (const std::wstring & ligne : lignes) {
-        Ecrire(ligne, y);
+        Ecrire(ligne, y, couper);
         y += page.interligne;
     }
     lignes.clear();

@@ -7,10 +7,9 @@ constexpr double      millimetres_par_pouce = 25.4;
 constexpr double      marge_mm              = 15;
 constexpr int         marges_par_cote       = 12;  // a margin takes no more than that part of the sheet
 constexpr double      points_par_pouce      = 72;
-constexpr double      taille_ordinaire      = 10;   // points
-constexpr double      chasse                = 0.6;  // width of a fixed-pitch character, in ems
+constexpr double      taille_ordinaire      = 10;      // points
+constexpr double      chasse                = 0.6002;  // width of a fixed-pitch character, in ems
 constexpr double      interligne_em         = 1.2;
-constexpr double      allongement           = 1.5;  // how much higher than its own shape a narrow font stays
 constexpr std::size_t colonnes_minimales    = 80;
 constexpr std::size_t pas_colonnes          = 20;
 
@@ -38,14 +37,16 @@ Mise_en_page Mettre_en_page(const Feuille & feuille) {
     page.largeur = x.etendue;
     page.hauteur = y.etendue;
     // Widths and heights have each their own dots.
-    const double em_ordinaire = taille_ordinaire / points_par_pouce;
-    const double em_serre     = page.largeur / (chasse * colonnes_minimales * std::max(feuille.points_x, 1));
-    const double em           = std::min(em_ordinaire, em_serre);  // inches
-    page.corps.largeur        = std::max(static_cast<int>(em * chasse * feuille.points_x), 1);
-    page.corps.hauteur        = std::max(static_cast<int>(em * feuille.points_y), 1);
-    page.interligne           = std::max(static_cast<int>(em * interligne_em * feuille.points_y), 1);
-    page.lignes               = static_cast<std::size_t>(std::max(page.hauteur / page.interligne, 1));
-    page.colonnes = std::max(static_cast<std::size_t>(page.largeur / page.corps.largeur), colonnes_minimales);
+    const double points_x = std::max(feuille.points_x, 1);
+    const double points_y = std::max(feuille.points_y, 1);
+    const double serre    = page.largeur / (chasse * colonnes_minimales * points_x);
+    const double em       = std::min(taille_ordinaire / points_par_pouce, serre);  // inches
+    page.aspect           = points_y / points_x;
+    page.corps            = std::max(static_cast<int>(em * points_y), 1);
+    page.interligne       = std::max(static_cast<int>(em * interligne_em * points_y), 1);
+    page.lignes           = static_cast<std::size_t>(std::max(page.hauteur / page.interligne, 1));
+    const double colonnes = page.largeur * page.aspect / (chasse * page.corps);
+    page.colonnes         = std::max(static_cast<std::size_t>(colonnes), colonnes_minimales);
     return page;
 }
 
@@ -54,11 +55,7 @@ std::size_t Colonnes_pour(const Mise_en_page & page, std::size_t longueur) {
     return std::min((longueur + pas_colonnes - 1) / pas_colonnes * pas_colonnes, colonnes_maximales);
 }
 
-Corps Corps_pour(const Mise_en_page & page, std::size_t colonnes) {
-    if (colonnes <= page.colonnes) return page.corps;
-    Corps corps;
-    corps.largeur       = std::max(page.largeur / static_cast<int>(colonnes), 1);
-    const double propre = static_cast<double>(page.corps.hauteur) * corps.largeur / page.corps.largeur;
-    corps.hauteur       = std::clamp(static_cast<int>(propre * allongement), 1, page.corps.hauteur);
-    return corps;
+int Corps_pour(const Mise_en_page & page, std::size_t colonnes) {
+    const double em = page.largeur * page.aspect / (chasse * static_cast<double>(colonnes));
+    return std::clamp(static_cast<int>(em), 1, page.corps);
 }

@@ -15,23 +15,16 @@ struct Feuille {
     int points_y           = 0;
 };
 
-// One character of a fixed-pitch font.
-struct Corps {
-    int hauteur = 0;  // em
-    int largeur = 0;
-
-    bool operator==(const Corps &) const = default;
-};
-
 struct Mise_en_page {
     int         gauche     = 0;  // of the text, from the origin of what can be printed
     int         haut       = 0;
     int         largeur    = 0;  // between the margins
     int         hauteur    = 0;
     int         interligne = 0;
+    int         corps      = 0;  // em of the ordinary font
+    double      aspect     = 1;  // dots that a height takes for one of the same width
     std::size_t lignes     = 0;  // on a page, at least one
     std::size_t colonnes   = 0;  // in the ordinary font, at least 80
-    Corps       corps;           // of the ordinary font
 };
 
 // Margins of 15 mm, narrower on a small sheet, and 10 points with six lines to the inch where 80 columns fit. A sheet without
@@ -43,5 +36,5 @@ inline constexpr std::size_t colonnes_maximales = 1280;
 
 // How many columns a page is set in whose longest line has that length: its lines stay aligned.
 std::size_t Colonnes_pour(const Mise_en_page & page, std::size_t longueur);
-// The font of so many columns: narrower, and less high only when it would be hard to read otherwise.
-Corps Corps_pour(const Mise_en_page & page, std::size_t colonnes);
+// The em of a fixed-pitch font of so many columns. Its shape stays: some printers do not draw a font narrower than it is.
+int Corps_pour(const Mise_en_page & page, std::size_t colonnes);

@@ -4,7 +4,7 @@
 
 namespace {
 constexpr std::wstring_view blancs     = L" \t\r\n";
-constexpr wchar_t           separateur = L'|';  // which no file name can hold
+constexpr wchar_t           separateur = L'\0';  // which no command line can hold
 
 bool Est_vide(std::wstring_view texte) { return texte.find_first_not_of(blancs) == texte.npos; }
 }  // namespace

@@ -64,7 +64,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * donnees, std::size_t 
     }
     exiger(index.Nombre() <= contenu.size());
 
-    const Arguments lus = Lire_arguments(Texte_libre(donnees, taille));
-    exiger(Deballer(Emballer(lus.fichiers)).size() >= lus.fichiers.size());
+    std::wstring ligne = Texte_libre(donnees, taille);
+    std::replace(ligne.begin(), ligne.end(), L'\0', L' ');  // which ends a command line
+    const Arguments lus = Lire_arguments(ligne);
+    exiger(Deballer(Emballer(lus.fichiers)) == lus.fichiers);
     return 0;
 }
