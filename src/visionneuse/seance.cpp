@@ -35,7 +35,8 @@ Seance::Occupation::~Occupation() {
 }
 
 Seance::Seance() {
-    f.Taille_minimale(f.Largeur_interieure(), 4200);
+    // What the file list and the search field can give up.
+    f.Taille_minimale(f.Largeur_interieure() - 1500, 4200);
     for (const wchar_t * mode :
          {L"Texte (ANSI)", L"Texte (UTF-8)", L"Texte (UTF-16)", L"Texte (UTF-16 BE)", L"Hexadécimal"})
         f.Affichage.AddItem(mode);
@@ -46,7 +47,7 @@ Seance::Seance() {
     f.Defaut(f.Suivant);
     f.Annulation(f.Fermer);
     compte_.Interval(15);
-    veille_.Interval(1000);
+    veille_.Interval(500);
     Montrer(-1);
 }
 
@@ -67,10 +68,10 @@ void Seance::Brancher() {
         Proteger([this] { Changer_mode(); });
         f.Vue.SetFocus();
     };
-    f.Retour.Click    = [this] { Proteger([this] { Reprendre_contenu(); }); };
-    f.Vue.Defile      = [this] { Dire_position(); };
-    f.Vue.Taille      = [this] { Proteger([this] { Reprendre_contenu(); }); };
-    f.Vue.Panne       = [this](const std::exception & faute) { Panne(faute); };
+    f.Retour.Click = [this] { Proteger([this] { Reprendre_contenu(); }); };
+    f.Vue.Defile   = [this] { Dire_position(); };
+    f.Vue.Taille   = [this] { Proteger([this] { Reprendre_contenu(); }); };
+    f.Vue.Panne    = [this](const std::exception & faute) { Panne(faute); };
     f.Ouvrir.Brancher([this] { Proteger([this] { Parcourir(); }); });
     f.Imprimer.Brancher([this] { Proteger([this] { Imprimer(); }); });
     f.Suivant.Brancher([this] { Proteger([this] { Chercher(); }); });
@@ -106,7 +107,11 @@ void Seance::Recevoir(Remise & remise) {
 }
 
 void Seance::Montrer_fenetre() {
-    f.Move(std::max((Largeur_ecran() - f.Width()) / 2, 0), std::max((Hauteur_ecran() - f.Height()) / 2, 0));
+    const Rectangle_twips zone    = Zone_de_travail(f);
+    const int             largeur = std::min(f.Width(), zone.droite - zone.gauche);
+    const int             hauteur = std::min(f.Height(), zone.bas - zone.haut);
+    f.Move((zone.gauche + zone.droite - largeur) / 2, (zone.haut + zone.bas - hauteur) / 2, largeur, hauteur);
+    Disposer();
     f.Vue.SetFocus();
     f.Show();
 }
