@@ -4,6 +4,7 @@
 #include "toolkit/fenetre.h"
 #include "toolkit/interne.h"
 
+#include <new>
 #include <utility>
 
 namespace {
@@ -83,7 +84,11 @@ bool Remise::Recevoir(const void * donnees) {
     if (recues->dwData != marque || recues->cbData > longueur_max || recues->cbData % sizeof(wchar_t) != 0)
         return false;
     const auto * texte = static_cast<const wchar_t *>(recues->lpData);
-    recus_.emplace_back(texte, recues->cbData / sizeof(wchar_t));
+    try {
+        recus_.emplace_back(texte, recues->cbData / sizeof(wchar_t));
+    } catch (const std::bad_alloc &) {
+        return false;  // the sender keeps it
+    }
     // The sender waits for the answer: what the text leads to comes after it.
     return PostMessageW(static_cast<HWND>(poignee_), message_suite, 0, 0) != FALSE;
 }

@@ -99,8 +99,9 @@ void Vue_texte::Contenu(Contenu_rangees * contenu, std::uint64_t position) {
 
 void Vue_texte::Remplacer(Contenu_rangees * contenu) {
     contenu_ = contenu;
-    colonne_ = 0;
+    avis_.clear();
     Relire();
+    Defiler_cote(colonne_);
 }
 
 void Vue_texte::Avis(const std::wstring & texte) {

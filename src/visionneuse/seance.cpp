@@ -93,6 +93,7 @@ void Seance::Proteger(const std::function<void()> & corps) {
     } catch (const std::exception &) {
         libelle = Libelle_panne(Numero::entree_sortie, {}, {});
     }
+    Dire_etat(L"");
     Message_boite(Pour_boite(libelle), Boite::exclamation, L"Visionneuse");
 }
 

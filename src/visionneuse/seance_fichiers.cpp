@@ -47,7 +47,7 @@ void Seance::Ouvrir(const std::vector<std::wstring> & fichiers) {
 }
 
 void Seance::Montrer(int rang) {
-    if (occupee_) return f.Fichiers.ListIndex(courant_);
+    if (occupee_) return f.Fichiers.Choisir(courant_);
     courant_ = rang;
     // The view lets go of the rows before they go.
     f.Vue.Contenu(nullptr);

@@ -28,7 +28,10 @@ void Seance::Imprimer() {
         Message_boite(L"Ce fichier est vide : il n'y a rien à imprimer.", Boite::information, L"Imprimer");
         return;
     }
-    if (!Confirmer(document_->Longueur(), document_->Mode() == Affichage::hexa) || !Utilisable()) return;
+    const Document * demande = document_.get();
+    if (!Confirmer(document_->Longueur(), document_->Mode() == Affichage::hexa)) return;
+    // While the question was up, another viewer may have handed over a file that now shows.
+    if (!Utilisable() || document_.get() != demande) return;
     try {
         Imprimer_document(L"Visionneuse - " + std::wstring(Nom_du_chemin(document_->Chemin())));
     } catch (const Erreur_execution & erreur) {

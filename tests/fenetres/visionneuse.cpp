@@ -289,6 +289,8 @@ TEST_F(Visionneuse, un_fichier_en_lecture_seule_ou_ecrit_par_un_autre_programme_
     SetFilePointer(ecrit, 0, nullptr, FILE_BEGIN);
     SetEndOfFile(ecrit);
     ATTENDRE(Lu() == L"Ce fichier est vide.");
+    WriteFile(ecrit, "repris", 6, &n, nullptr);
+    ATTENDRE(Lu() == L"repris\r\n");
     CloseHandle(ecrit);
     EXPECT_TRUE(DeleteFileW(Chemin(L"journal.txt").c_str()));
     Frapper(VK_ESCAPE);
