@@ -20,7 +20,15 @@ set(KORVANE_SOURCES_LOGIQUE
     src/search/arbre.cpp
     src/search/modeles.cpp
     src/search/nom_repertoire.cpp
-    src/texte/codage.cpp)
+    src/texte/codage.cpp
+    src/visionneuse/arguments.cpp
+    src/visionneuse/decodage.cpp
+    src/visionneuse/index_lignes.cpp
+    src/visionneuse/libelles.cpp
+    src/visionneuse/octets.cpp
+    src/visionneuse/rangees_hexa.cpp
+    src/visionneuse/rangees_texte.cpp
+    src/visionneuse/recherche.cpp)
 list(TRANSFORM KORVANE_SOURCES_LOGIQUE PREPEND "${CMAKE_SOURCE_DIR}/")
 
 add_library(logique STATIC ${KORVANE_SOURCES_LOGIQUE})
