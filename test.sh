@@ -2,7 +2,7 @@
 # Every check of the project, from a fresh machine; the last line counts: "N passed, N failed, N skipped".
 #
 #   ./test.sh                     everything
-#   ./test.sh --rapide            without analyses, fuzzing, resolutions and the drawn screen
+#   ./test.sh --rapide            without analyses, fuzzing, resolutions, the drawn screen and the package
 #   ./test.sh --fenetres FILTER   the window tests of a GoogleTest filter alone
 #
 # Reports and logs are left in build/resultats/, what was on the screen when a window test failed in build/echecs/.
@@ -250,6 +250,21 @@ ecran_dessine() {
     eteindre_ecran
 }
 
+# What users get: made, then tried where they would put it.
+paquet() {
+    local journal=$resultats/paquet.txt compte
+    dire "paquet et installateur"
+    { timeout -k 10 600 ./package.sh && timeout -k 20 400 outils/essai_paquet.sh; } </dev/null >"$journal" 2>&1
+    sed -n 's/^laissé : //p' "$journal" >>"$resultats/laisses.txt"
+    compte=$(sed -n 's/^\([0-9]*\) passed, \([0-9]*\) failed$/\1 \2/p' "$journal" | tail -1)
+    if [ -z "$compte" ]; then
+        rate paquet "$journal"
+    else
+        compter "${compte% *}" "${compte#* }" 0 paquet
+        [ "${compte#* }" = 0 ] || sed -n '/^échec/,$p' "$journal" | head -40
+    fi
+}
+
 finir() {
     local image nombre
     for image in build/echecs/*.bmp; do
@@ -269,7 +284,7 @@ rm -rf "$resultats" build/echecs build/prefixes
 mkdir -p "$resultats"
 : >"$resultats/laisses.txt"
 dire "paquets"
-outils/installer.sh construire executer essais || rate "installation des paquets"
+outils/installer.sh construire paquet executer essais || rate "installation des paquets"
 [ "$variante" = tout ] && analyses
 [ "$variante" != fenetres ] && logique_native
 if construire windows-x64; then
@@ -278,6 +293,7 @@ if construire windows-x64; then
         if [ "$variante" = tout ]; then
             resolutions
             ecran_dessine
+            paquet
         fi
     else
         rate "préfixe Wine"

@@ -16,12 +16,11 @@ if [ -z "${KORVANE_ESSAI_PAQUET:-}" ]; then
     export KORVANE_ESSAI_PAQUET=1 WINEPREFIX=$racine/build/prefixes/paquet
     unset DISPLAY
     mkdir -p "$journaux"
-    outils/prefixe.sh modele build/prefixe-modele >/dev/null &&
-        outils/prefixe.sh nouveau build/prefixe-modele "$WINEPREFIX" null || {
-        echo "préfixe Wine : impossible"
+    if ! outils/prefixe.sh modele build/prefixe-modele || ! outils/prefixe.sh nouveau build/prefixe-modele "$WINEPREFIX" null; then
+        echo "échec : préfixe Wine"
         echo "0 passed, 1 failed"
         exit 1
-    }
+    fi
     statut=0
     outils/unites.sh outils/essai_paquet.sh || statut=$?
     rm -rf "$WINEPREFIX"
@@ -30,7 +29,7 @@ fi
 
 archive=$(echo build/paquet/KORVANE-*.zip)
 installateur=$racine/$(echo build/paquet/KORVANE-*-installation.exe)
-utilisateur=$(echo "$WINEPREFIX"/drive_c/users/"$(id -un)")
+utilisateur=$WINEPREFIX/drive_c/users/$(id -un)
 installe=$utilisateur/AppData/Local/Programs/KORVANE
 raccourci="$utilisateur/AppData/Roaming/Microsoft/Windows/Start Menu/Programs/KORVANE.lnk"
 cle='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\KORVANE'
@@ -48,6 +47,17 @@ essayer() {
     echo "échec : $nom"
     tr -d '\r' <"$journal" | grep -v '^wine: ' | tail -15 | sed 's/^/    /'
     return 0
+}
+
+# The captions that the manual quotes, \s{...}, are on the screen.
+legendes_du_manuel() {
+    local inconnues
+    inconnues=$(grep -o '\\s{[^}]*}' aide/manuel.but | sed 's/^...//; s/}$//' | sort -u | grep -v -x -F -f <(
+        printf '%s\n' Oui Non
+        grep -r -h -o --include='*.h' --include='*.cpp' 'L"[^"]*"' src | sed 's/^L"//; s/"$//; s/&//g; s/^ *//' | sort -u
+    ))
+    echo "$inconnues"
+    [ -z "$inconnues" ]
 }
 
 # windows PATH : a path of the prefix as the programs see it.
@@ -75,6 +85,10 @@ contient_tout() {
     }
 }
 
+aides_saines() {
+    [ "$(head -c4 "$1/KORVANE.HLP" | od -An -tx1 | tr -d ' ')" = 3f5f0300 ] && [ "$(head -c4 "$1/KORVANE.CHM")" = ITSF ]
+}
+
 lisezmoi_lisible() {
     local texte=$1/LISEZMOI.TXT
     [ "$(head -c3 "$texte")" = $'\xef\xbb\xbf' ] && ! grep -q '@' "$texte" && ! grep -q -v $'\r$' "$texte" && iconv -f UTF-8 "$texte"
@@ -82,12 +96,13 @@ lisezmoi_lisible() {
 
 # Nothing but the system's own libraries.
 se_suffit() {
-    local bibliotheque
-    while read -r bibliotheque; do
-        echo "$bibliotheque"
-        [ -f "$WINEPREFIX/drive_c/windows/system32/${bibliotheque,,}" ] || return 1
-    done < <(x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/.*DLL Name: //p')
-    [ -n "${bibliotheque:-}" ]
+    local nom noms
+    noms=$(x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/.*DLL Name: //p')
+    for nom in $noms; do
+        echo "$nom"
+        [ -f "$WINEPREFIX/drive_c/windows/system32/${nom,,}" ] || return 1
+    done
+    [ -n "$noms" ]
 }
 
 protege() {
@@ -150,6 +165,11 @@ rien_ne_reste() {
     ! executer reg query "$cle" && ! executer reg query 'HKCU\Software\KORVANE' && [ ! -e "$raccourci" ] && [ ! -e "$1" ]
 }
 
+ne_laisse_que_les_reglages() {
+    ls -la "$installe"
+    [ "$(ls "$installe")" = KORVANE.INI ] && ! executer reg query "$cle" && [ ! -e "$raccourci" ]
+}
+
 # An older version with settings: the new one replaces all its files and leaves the settings alone.
 remplace_en_gardant_les_reglages() {
     echo ancienne | tee "$installe"/KORVANE.CHM "$installe"/PELMIRA.EXE >"$installe"/LISEZMOI.TXT
@@ -175,17 +195,20 @@ sans_moteur() {
 
 essais_archive() {
     local cle_usb="$WINEPREFIX/drive_c/Clé USB été/mes outils"
+    essayer "le manuel ne nomme que ce qui est à l'écran" legendes_du_manuel
     essayer "l'archive est saine" unzip -tq "$archive"
     essayer "elle se décompresse" decompresser "$cle_usb"
     essayer "elle contient les cinq fichiers" contient_tout "$cle_usb"
     essayer "LISEZMOI.TXT se lit partout" lisezmoi_lisible "$cle_usb"
+    essayer "les deux manuels en sont" aides_saines "$cle_usb"
     essayer "KORVANE.EXE se suffit" se_suffit "$cle_usb/KORVANE.EXE"
     essayer "PELMIRA.EXE se suffit" se_suffit "$cle_usb/PELMIRA.EXE"
     essayer "parcourt les disques et n'écrit rien" controler parcourt_son_propre_repertoire_puis_quitte "$cle_usb"
     essayer "répertoire sans écriture : parcourt" protege "$cle_usb" controler parcourt_son_propre_repertoire_puis_quitte "$cle_usb"
     essayer "répertoire sans écriture : le dit" protege "$cle_usb" \
         controler travaille_sans_pouvoir_ecrire_ses_reglages_et_le_dit "$cle_usb"
-    [ -n "${KORVANE_D:-}" ] && essayer "disque protégé : le dit" sur_disque_protege
+    if [ -n "${KORVANE_D:-}" ]; then essayer "disque protégé : le dit" sur_disque_protege; else echo "laissé : paquet sur disque protégé"; fi
+    essayer "le visualiseur montre un fichier" controler son_visualiseur_montre_un_fichier "$cle_usb"
     printf '[Options]\r\nAide en ligne=Oui\r\nIconis\xe9=Oui\r\n' >"$cle_usb/KORVANE.INI"
     essayer "ouvre son manuel" controler ouvre_son_manuel "$cle_usb"
     essayer "sans moteur d'aide, ouvre l'autre manuel" sans_moteur "$cle_usb"
@@ -202,9 +225,12 @@ essais_installateur() {
     essayer "ne se laisse pas retirer pendant qu'il sert" refuse_pendant "$installe/desinstaller.exe" \
         "/S _?=$(windows "$installe")"
     essayer "se désinstalle en silence" desinstaller "$installe"
-    essayer "laisse les réglages, et eux seuls" eval 'ls -la "$installe"; [ "$(ls "$installe")" = KORVANE.INI ]'
+    essayer "laisse les réglages, et eux seuls" ne_laisse_que_les_reglages
     rm -rf "$installe"
-    essayer "s'installe dans le répertoire demandé" executer "$installateur" /S "/D=$(windows "$ailleurs")"
+    local -a mots
+    # The path comes last and without quotes, as the installer wants it.
+    read -r -a mots <<<"$(windows "$ailleurs")"
+    essayer "s'installe dans le répertoire demandé" executer "$installateur" /S "/D=${mots[0]}" "${mots[@]:1}"
     essayer "y installe tous les fichiers" contient_tout "$ailleurs" desinstaller.exe
     essayer "s'en désinstalle" desinstaller "$ailleurs"
     essayer "ne laisse rien" rien_ne_reste "$ailleurs"

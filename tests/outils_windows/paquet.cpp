@@ -127,6 +127,16 @@ TEST_F(Paquet, travaille_sans_pouvoir_ecrire_ses_reglages_et_le_dit) {
     Frapper(VK_ESCAPE);
 }
 
+TEST_F(Paquet, son_visualiseur_montre_un_fichier) {
+    const auto avant = Lire_arbre(dossier);
+    programme = std::make_unique<Programme>(dossier + L"\\PELMIRA.EXE", L"\"" + dossier + L"\\LISEZMOI.TXT\"",
+                                            L"C:\\");
+    EXIGER(Fenetre_nommee(programme->Numero(), L"Visionneuse"));
+    Reposer(Fenetre_nommee(programme->Numero(), L"Visionneuse"));
+    EXPECT_EQ(Boite_visible(programme->Numero()), nullptr);
+    EXPECT_EQ(Differences(avant, Lire_arbre(dossier)), "");
+}
+
 // What the variable KORVANE_ACTE says is run while the program is open, and must refuse.
 TEST_F(Paquet, ouvert_ne_se_laisse_ni_remplacer_ni_retirer) {
     const auto avant = Lire_arbre(dossier);
