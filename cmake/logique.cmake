@@ -21,6 +21,7 @@ set(KORVANE_SOURCES_LOGIQUE
     src/search/modeles.cpp
     src/search/nom_repertoire.cpp
     src/texte/codage.cpp
+    src/texte/mise_en_page.cpp
     src/visionneuse/arguments.cpp
     src/visionneuse/decodage.cpp
     src/visionneuse/index_lignes.cpp

@@ -46,7 +46,7 @@ korvane_couche(visionneuse visionneuse)
 
 get_target_property(genre services TYPE)
 if(genre STREQUAL "STATIC_LIBRARY")
-    target_link_libraries(services PUBLIC mpr shell32 version winspool)
+    target_link_libraries(services PUBLIC gdi32 mpr shell32 version winspool)
 endif()
 get_target_property(genre boite_a_outils TYPE)
 if(genre STREQUAL "STATIC_LIBRARY")

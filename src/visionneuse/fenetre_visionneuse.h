@@ -2,6 +2,7 @@
 #include "toolkit/controles.h"
 #include "toolkit/fenetre.h"
 #include "toolkit/listes.h"
+#include "toolkit/vue_texte.h"
 
 // The viewer's window: the files of its command line, the one that is shown, and what is done with it.
 struct Fenetre_visionneuse : Fenetre {
@@ -20,6 +21,7 @@ struct Fenetre_visionneuse : Fenetre {
     Champ_texte     Recherche      {*this, {L"Recherche",       5850,  570,  2670,  330}};
     Bouton_commande Suivant        {*this, {L"Suivant",         8610,  555,  1140,  360, L"&Suivant"}};
     Bouton_commande Arrêter        {*this, {L"Arrêter",         9840,  555,  1140,  360, L"&Arrêter"}};
+    Vue_texte       Vue            {*this, {L"Vue",                0, 1020, 11100, 5790}};
     Etiquette       Etat           {*this, {L"Etat",             120, 6885,  6480,  255}};
     Etiquette       Position       {*this, {L"Position",        6720, 6885,  4260,  255}, Alignement::droite};
     // clang-format on

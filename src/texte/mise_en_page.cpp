@@ -1,0 +1,64 @@
+#include "texte/mise_en_page.h"
+
+#include <algorithm>
+
+namespace {
+constexpr double      millimetres_par_pouce = 25.4;
+constexpr double      marge_mm              = 15;
+constexpr int         marges_par_cote       = 12;  // a margin takes no more than that part of the sheet
+constexpr double      points_par_pouce      = 72;
+constexpr double      taille_ordinaire      = 10;   // points
+constexpr double      chasse                = 0.6;  // width of a fixed-pitch character, in ems
+constexpr double      interligne_em         = 1.2;
+constexpr double      allongement           = 1.5;  // how much higher than its own shape a narrow font stays
+constexpr std::size_t colonnes_minimales    = 80;
+constexpr std::size_t pas_colonnes          = 20;
+
+// What is left of one side of the sheet between two margins, from the origin of what can be printed.
+struct Cote {
+    int debut   = 0;
+    int etendue = 1;
+};
+
+Cote Marges(int papier, int debut, int imprimable, int points) {
+    const int voulue =
+        std::min(static_cast<int>(marge_mm / millimetres_par_pouce * points), papier / marges_par_cote);
+    const int avant = std::max(voulue - debut, 0);
+    const int apres = std::max(voulue - (papier - debut - imprimable), 0);
+    return {avant, std::max(imprimable - avant - apres, 1)};
+}
+}  // namespace
+
+Mise_en_page Mettre_en_page(const Feuille & feuille) {
+    const Cote   x = Marges(feuille.largeur, feuille.gauche, feuille.largeur_imprimable, feuille.points_x);
+    const Cote   y = Marges(feuille.hauteur, feuille.haut, feuille.hauteur_imprimable, feuille.points_y);
+    Mise_en_page page;
+    page.gauche  = x.debut;
+    page.haut    = y.debut;
+    page.largeur = x.etendue;
+    page.hauteur = y.etendue;
+    // Widths and heights have each their own dots.
+    const double em_ordinaire = taille_ordinaire / points_par_pouce;
+    const double em_serre     = page.largeur / (chasse * colonnes_minimales * std::max(feuille.points_x, 1));
+    const double em           = std::min(em_ordinaire, em_serre);  // inches
+    page.corps.largeur        = std::max(static_cast<int>(em * chasse * feuille.points_x), 1);
+    page.corps.hauteur        = std::max(static_cast<int>(em * feuille.points_y), 1);
+    page.interligne           = std::max(static_cast<int>(em * interligne_em * feuille.points_y), 1);
+    page.lignes               = static_cast<std::size_t>(std::max(page.hauteur / page.interligne, 1));
+    page.colonnes = std::max(static_cast<std::size_t>(page.largeur / page.corps.largeur), colonnes_minimales);
+    return page;
+}
+
+std::size_t Colonnes_pour(const Mise_en_page & page, std::size_t longueur) {
+    if (longueur <= page.colonnes) return page.colonnes;
+    return std::min((longueur + pas_colonnes - 1) / pas_colonnes * pas_colonnes, colonnes_maximales);
+}
+
+Corps Corps_pour(const Mise_en_page & page, std::size_t colonnes) {
+    if (colonnes <= page.colonnes) return page.corps;
+    Corps corps;
+    corps.largeur       = std::max(page.largeur / static_cast<int>(colonnes), 1);
+    const double propre = static_cast<double>(page.corps.hauteur) * corps.largeur / page.corps.largeur;
+    corps.hauteur       = std::clamp(static_cast<int>(propre * allongement), 1, page.corps.hauteur);
+    return corps;
+}
