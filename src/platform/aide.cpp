@@ -39,7 +39,7 @@ std::wstring Chercher_aide(const std::wstring & nom) {
     const std::wstring windows = Repertoire_windows();
     for (const std::wstring & repertoire :
          {Repertoire_programme(), Joindre(windows, L"Help"), windows, Repertoire_systeme()}) {
-        const std::wstring chemin = Joindre(repertoire, nom);
+        std::wstring chemin = Joindre(repertoire, nom);
         if (Fichier_existe(chemin)) return chemin;
     }
     return {};
