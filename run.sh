@@ -94,12 +94,12 @@ demontrer() {
 
 if [ "$demonstration" = oui ]; then
     outils/installer.sh construire executer demonstration
-    construire KORVANE aide gardien demonstration
+    construire KORVANE PELMIRA aide gardien demonstration
     outils/prefixe.sh modele build/prefixe-modele
     demontrer
 else
     outils/installer.sh construire executer
-    construire KORVANE aide
+    construire KORVANE PELMIRA aide
     outils/prefixe.sh modele build/prefixe-modele
     ouvrir
 fi

@@ -165,9 +165,9 @@ rien_ne_reste() {
     ! executer reg query "$cle" && ! executer reg query 'HKCU\Software\KORVANE' && [ ! -e "$raccourci" ] && [ ! -e "$1" ]
 }
 
-ne_laisse_que_les_reglages() {
+ne_laisse_que_les_fichiers_de_l_utilisateur() {
     ls -la "$installe"
-    [ "$(ls "$installe")" = KORVANE.INI ] && ! executer reg query "$cle" && [ ! -e "$raccourci" ]
+    [ "$(cd "$installe" && echo *)" = "KORVANE.INI notes.txt" ] && ! executer reg query "$cle" && [ ! -e "$raccourci" ]
 }
 
 # An older version with settings: the new one replaces all its files and leaves the settings alone.
@@ -183,6 +183,25 @@ remplace_en_gardant_les_reglages() {
 refuse_pendant() {
     KORVANE_ACTE=$(windows "$1") KORVANE_ARGUMENTS=$2 controler ouvert_ne_se_laisse_ni_remplacer_ni_retirer "$installe" &&
         inscrit "$installe"
+}
+
+# One that nothing may be added to or removed from.
+refuse_dans_un_repertoire_reserve() {
+    mkdir -p "$1"
+    chmod a-w "$1"
+    ! executer "$installateur" /S "/D=$(windows "$1/KORVANE")"
+    local statut=$?
+    chmod u+w "$1"
+    [ "$statut" = 0 ] && [ ! -e "$1/KORVANE" ] && ! executer reg query "$cle" && [ ! -e "$raccourci" ]
+}
+
+# What could not be removed can be uninstalled again.
+reste_inscrit_quand_un_fichier_resiste() {
+    chmod a-w "$installe"
+    executer "$installe/desinstaller.exe" /S "_?=$(windows "$installe")"
+    local statut=$?
+    chmod u+w "$installe"
+    [ "$statut" = 1 ] && inscrit "$installe" && [ -f "$installe/desinstaller.exe" ]
 }
 
 # As a fresh system: no engine for the .HLP, the .CHM belongs to a program, here the recorder.
@@ -216,6 +235,7 @@ essais_archive() {
 
 essais_installateur() {
     local ailleurs="$WINEPREFIX/drive_c/Programmes à moi/KORVANE"
+    essayer "ne s'installe pas dans un répertoire réservé" refuse_dans_un_repertoire_reserve "$WINEPREFIX/drive_c/Reserve"
     essayer "s'installe en silence" executer "$installateur" /S
     essayer "installe tous les fichiers" contient_tout "$installe" desinstaller.exe
     essayer "s'inscrit dans la liste des programmes et le menu" inscrit "$installe"
@@ -224,8 +244,10 @@ essais_installateur() {
     essayer "ne se laisse pas remplacer pendant qu'il sert" refuse_pendant "$installateur" /S
     essayer "ne se laisse pas retirer pendant qu'il sert" refuse_pendant "$installe/desinstaller.exe" \
         "/S _?=$(windows "$installe")"
+    essayer "un fichier qui résiste le laisse dans la liste" reste_inscrit_quand_un_fichier_resiste
+    echo "à moi" >"$installe/notes.txt"
     essayer "se désinstalle en silence" desinstaller "$installe"
-    essayer "laisse les réglages, et eux seuls" ne_laisse_que_les_reglages
+    essayer "laisse ce qui est à l'utilisateur, et cela seul" ne_laisse_que_les_fichiers_de_l_utilisateur
     rm -rf "$installe"
     local -a mots
     # The path comes last and without quotes, as the installer wants it.

@@ -101,7 +101,9 @@ recommencez." /SD IDCANCEL IDRETRY +3
 !macro RETIRER NOM
   ClearErrors
   Delete "$INSTDIR\${NOM}"
+  ; Some file systems answer before they know.
   ${If} ${Errors}
+  ${OrIf} ${FileExists} "$INSTDIR\${NOM}"
     !insertmacro RENONCER "$INSTDIR\${NOM} ne peut pas être retiré. Fermez ce qui l'utilise et désinstallez à nouveau."
   ${EndIf}
 !macroend
