@@ -1,7 +1,9 @@
 #include "platform/aide.h"
 
 #include "platform/chemins.h"
+#include "platform/erreur.h"
 #include "platform/fichiers.h"
+#include "platform/programmes.h"
 #include "platform/systeme.h"
 #include "platform/windows.h"
 
@@ -51,11 +53,15 @@ HWND Fenetre_principale() {
     return active == nullptr ? nullptr : GetAncestor(active, GA_ROOTOWNER);
 }
 
+// The engine takes paths of the system's code page alone.
 bool Ouvrir_hlp(const std::wstring & chemin) {
-    const HWND principale = Fenetre_principale();
-    if (!WinHelpW(principale, chemin.c_str(), HELP_CONTENTS, 0)) return false;
+    const HWND   principale = Fenetre_principale();
+    std::wstring transmis;
+    if (!Tenter([&] { transmis = Chemin_transmissible(chemin); }) ||
+        !WinHelpW(principale, transmis.c_str(), HELP_CONTENTS, 0))
+        return false;
     demandeur      = principale;
-    fichier_ouvert = chemin;
+    fichier_ouvert = transmis;
     return true;
 }
 

@@ -184,6 +184,9 @@ TEST_F(Aide, avec_le_fichier_d_aide_f1_et_le_bouton_l_ouvrent_au_lieu_du_panneau
 class Aide_fichier : public Korvane {
 protected:
     Aide_fichier() { Regler(L"Options", L"Aide en ligne", L"Oui"); }
+    explicit Aide_fichier(const std::wstring & chemin) : Korvane(chemin) {
+        Regler(L"Options", L"Aide en ligne", L"Oui");
+    }
     ~Aide_fichier() override {
         Korvane::Fermer();
         Fermer_manuel();
@@ -309,6 +312,21 @@ TEST_F(Aide_fichier, sans_moteur_et_sans_l_autre_manuel_un_message_le_dit) {
     Attendre_boite(gestionnaire, L"Le fichier d'aide KORVANE.HLP ne peut pas être ouvert sur ce système.",
                    MB_OK | MB_ICONINFORMATION, IDOK);
     ATTENDRE(GetForegroundWindow() == Principale() && A_le_focus(L"Aide"));
+}
+
+// A directory whose name the system's code page cannot hold.
+class Aide_fichier_ailleurs : public Aide_fichier {
+protected:
+    Aide_fichier_ailleurs() : Aide_fichier(L"C:\\essais\\\u041A\u043B\u044E\u0447") {}
+};
+
+TEST_F(Aide_fichier_ailleurs, le_manuel_s_ouvre_dans_un_repertoire_au_nom_d_un_autre_alphabet) {
+    Fournir(L"KORVANE.HLP");
+    Ne_pas_regler(L"Options", L"Répertoire");
+    Lancer();
+    Cliquer(L"Aide");
+    EXIGER(Manuel_dit(L"Présentation"));
+    EXPECT_TRUE(Boite_absente());
 }
 
 // Names too long for their list.
