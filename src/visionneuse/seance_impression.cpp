@@ -56,5 +56,4 @@ void Seance::Imprimer_document(const std::wstring & titre) {
     // Given up by the user when the printer asked where to put it.
     arret_ = imprimante.Abandonnee();
     if (!arret_) imprimante.Terminer();
-    arret_ = arret_ || imprimante.Abandonnee();
 }
