@@ -85,6 +85,14 @@ contient_tout() {
     }
 }
 
+# What the system shows of the programs is the version of the package.
+meme_version() {
+    local version=${archive##*KORVANE-} nom
+    for nom in KORVANE PELMIRA; do
+        x86_64-w64-mingw32-strings -el "$1/$nom.EXE" | grep -A1 -x FileVersion | grep -x "${version%.zip}.0" || return 1
+    done
+}
+
 aides_saines() {
     [ "$(head -c4 "$1/KORVANE.HLP" | od -An -tx1 | tr -d ' ')" = 3f5f0300 ] && [ "$(head -c4 "$1/KORVANE.CHM")" = ITSF ]
 }
@@ -219,6 +227,7 @@ essais_archive() {
     essayer "elle se décompresse" decompresser "$cle_usb"
     essayer "elle contient les cinq fichiers" contient_tout "$cle_usb"
     essayer "LISEZMOI.TXT se lit partout" lisezmoi_lisible "$cle_usb"
+    essayer "les programmes sont de sa version" meme_version "$cle_usb"
     essayer "les deux manuels en sont" aides_saines "$cle_usb"
     essayer "KORVANE.EXE se suffit" se_suffit "$cle_usb/KORVANE.EXE"
     essayer "PELMIRA.EXE se suffit" se_suffit "$cle_usb/PELMIRA.EXE"

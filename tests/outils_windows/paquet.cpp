@@ -132,7 +132,8 @@ TEST_F(Paquet, son_visualiseur_montre_un_fichier) {
     programme = std::make_unique<Programme>(dossier + L"\\PELMIRA.EXE", L"\"" + dossier + L"\\LISEZMOI.TXT\"",
                                             L"C:\\");
     EXIGER(Fenetre_nommee(programme->Numero(), L"Visionneuse"));
-    Reposer(Fenetre_nommee(programme->Numero(), L"Visionneuse"));
+    const HWND vue = Controle_nomme(Fenetre_nommee(programme->Numero(), L"Visionneuse"), L"Vue");
+    ATTENDRE(Texte(vue).find(L"Gestionnaire de fichiers à deux cadres") != std::wstring::npos);
     EXPECT_EQ(Boite_visible(programme->Numero()), nullptr);
     EXPECT_EQ(Differences(avant, Lire_arbre(dossier)), "");
 }
