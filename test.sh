@@ -10,6 +10,7 @@ set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit 1
 racine=$PWD
 source outils/wine.sh
+source outils/ecran.sh
 resultats=build/resultats
 programmes=$racine/build/windows-x64
 passes=0 echoues=0 laisses=0
@@ -30,8 +31,7 @@ nettoyer() {
     for prefixe in build/prefixes/*/; do
         [ -d "$prefixe" ] && WINEPREFIX=$racine/${prefixe%/} fermer_wine
     done
-    [ -n "${ecran:-}" ] && kill "$ecran" 2>/dev/null
-    return 0
+    eteindre_ecran
 }
 trap nettoyer EXIT
 trap 'exit 130' INT TERM
@@ -202,28 +202,6 @@ essais_windows() {
     for nom in fenetres-1 fenetres-2; do compter_essais "$nom" "$(cat "$resultats/$nom.statut")"; done
 }
 
-# allumer_ecran WIDTHxHEIGHT : a screen of our own, on the first free number.
-allumer_ecran() {
-    local numero=$resultats/ecran
-    : >"$numero"
-    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$numero" </dev/null >/dev/null 2>&1 &
-    ecran=$!
-    for _ in $(seq 100); do
-        [ -s "$numero" ] && break
-        sleep 0.1
-    done
-    [ -s "$numero" ] || return 1
-    DISPLAY=:$(cat "$numero")
-    export DISPLAY
-}
-
-eteindre_ecran() {
-    kill "$ecran" 2>/dev/null
-    wait "$ecran" 2>/dev/null
-    ecran=
-    unset DISPLAY
-}
-
 # The layout must be right at every usual resolution; the screen is large enough for the window at 192.
 resolutions() {
     local ppp
@@ -266,10 +244,8 @@ paquet() {
 }
 
 finir() {
-    local image nombre
-    for image in build/echecs/*.bmp; do
-        [ -f "$image" ] && convert "$image" "${image%.bmp}.png" && rm -f "$image"
-    done
+    local nombre
+    en_png build/echecs
     sort -u "$resultats/laisses.txt" -o "$resultats/laisses.txt"
     nombre=$(wc -l <"$resultats/laisses.txt")
     if [ "$nombre" != 0 ]; then

@@ -1,7 +1,7 @@
 #!/bin/bash
 # essai_paquet.sh : tries the packages of build/paquet/ from end to end under Wine, in a prefix of its own: the archive in a
-# directory with blanks and accents, in one that cannot be written and on a protected disk; the installer and the uninstaller,
-# silently, over an older version, and while the program runs.
+# directory with blanks and accents, in one that cannot be written, on a protected disk, and used by a newcomer; the installer and
+# the uninstaller, silently, over an older version, and while the program runs.
 # What failed is said; the last line counts: "N passed, N failed". Logs are left in build/resultats/paquet/.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
@@ -240,6 +240,7 @@ essais_archive() {
     printf '[Options]\r\nAide en ligne=Oui\r\nIconis\xe9=Oui\r\n' >"$cle_usb/KORVANE.INI"
     essayer "ouvre son manuel" controler ouvre_son_manuel "$cle_usb"
     essayer "sans moteur d'aide, ouvre l'autre manuel" sans_moteur "$cle_usb"
+    essayer "un nouveau venu s'en sert" outils/nouveau_venu.sh
 }
 
 essais_installateur() {
