@@ -19,6 +19,7 @@
 #include "forms/apropos.h"
 #include "forms/dialogue.h"
 #include "forms/gestion_fichiers.h"
+#include "platform/aide.h"
 #include "platform/systeme.h"
 #include "recycle/fenetre_corbeille.h"
 #include "search/chercher.h"
@@ -63,6 +64,7 @@ extern "C" int __stdcall wWinMain(void *, void *, wchar_t *, int) {
     Brancher(principale, dialogue);
     Charger(principale, apropos, banniere);
     const int code = Application::Boucler();
+    Fermer_aide();
     fenetres.Fermer_filles();
     return code;
 }
