@@ -1,17 +1,15 @@
 #include "browser/groupe_boutons.h"
 
 #include <algorithm>
-#include <ranges>
 #include <unordered_set>
 
 namespace {
 // Where the group after these captions begins.
 std::size_t Debut_suivant(const std::vector<std::wstring> & noms, const std::vector<std::wstring> & montres) {
-    for (const std::wstring & montre : std::views::reverse(montres)) {
-        const auto trouve = std::find(noms.begin(), noms.end(), montre);
-        if (trouve != noms.end()) return static_cast<std::size_t>(trouve - noms.begin()) + 1;
-    }
-    return 0;
+    const auto place  = [&](const std::wstring & nom) { return std::find(noms.begin(), noms.end(), nom); };
+    const auto montre = std::find_if(montres.rbegin(), montres.rend(),
+                                     [&](const std::wstring & nom) { return place(nom) != noms.end(); });
+    return montre == montres.rend() ? 0 : static_cast<std::size_t>(place(*montre) - noms.begin()) + 1;
 }
 }  // namespace
 

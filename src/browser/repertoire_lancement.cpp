@@ -15,7 +15,7 @@ bool Peut_etre_courant(const std::wstring & repertoire) {
 
 std::wstring Repertoire_de_lancement(const std::wstring & repertoire) {
     if (Peut_etre_courant(repertoire)) return repertoire;
-    const std::wstring court = Chemin_court(repertoire);
+    std::wstring court = Chemin_court(repertoire);
     if (!court.empty() && Peut_etre_courant(court)) return court;
     Bip();
     Message_boite(L"Le chemin du répertoire de travail est trop long pour y lancer une commande.",
