@@ -17,6 +17,10 @@
 #include "toolkit/boites.h"
 
 #include <algorithm>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace {
 constexpr int             decalage = 1200;  // twips from the main window's corner, to the right and down
@@ -224,9 +228,9 @@ void Fin_Click(Config_Korvane & w) {
 void Brancher(Config_Korvane & w) {
     Brancher_fille(w, aide_fenetre_conf);
     Brancher_astuce(w, w.Liste_conf, w.Tip);
-    Bouton_option * const options[] = {&w.Boutons, &w.Sélections, &w.Associer};
-    for (std::size_t i = 0; i < std::size(options); ++i)
-        options[i]->Click = [&w, &rubrique = rubriques[i]] { Montrer_rubrique(w, rubrique); };
+    w.Boutons.Click    = [&w] { Montrer_rubrique(w, rubriques[0]); };
+    w.Sélections.Click = [&w] { Montrer_rubrique(w, rubriques[1]); };
+    w.Associer.Click   = [&w] { Montrer_rubrique(w, rubriques[2]); };
     w.Ligne_conf.Limite(static_cast<int>(plus_longue_valeur));
     w.Ligne_conf.Change = [&w] { Ligne_conf_Change(w); };
     w.Liste_conf.Click  = [&w] { Liste_conf_Click(w); };
