@@ -1,5 +1,6 @@
 // Measures the program's own engine and services side by side with what a user would have instead, in one run.
 // banc.exe DIRECTORY-OF-100000-FILES WORK-DIRECTORY PROGRAM.EXE : prints a table of ratios; exit status 0 when measured.
+#include "mesure.h"
 #include "platform/fichiers.h"
 #include "platform/textes.h"
 #include "platform/transfert.h"
@@ -15,19 +16,6 @@
 #include <vector>
 
 namespace {
-double Secondes() {
-    LARGE_INTEGER compte{}, frequence{};
-    QueryPerformanceCounter(&compte);
-    QueryPerformanceFrequency(&frequence);
-    return static_cast<double>(compte.QuadPart) / static_cast<double>(frequence.QuadPart);
-}
-
-double Duree(const std::function<void()> & travail) {
-    const double debut = Secondes();
-    travail();
-    return Secondes() - debut;
-}
-
 // What else the machine does only ever adds time: the shortest run is the nearest to the work itself.
 double Meilleure(const std::vector<double> & durees) {
     return *std::min_element(durees.begin(), durees.end());
@@ -49,14 +37,7 @@ Paire Cote_a_cote(int tours, const std::function<double()> & nous, const std::fu
 }
 
 void Rangee(const char * quoi, const Paire & mesure, double borne) {
-    const double rapport = mesure.nous / mesure.autre;
-    std::printf("%-44s %10.3f %10.3f %8.2f  <= %.2f  %s\n", quoi, mesure.nous, mesure.autre, rapport, borne,
-                rapport <= borne ? "atteint" : "NON ATTEINT");
-}
-
-void Rangee_absolue(const char * quoi, double valeur, double borne) {
-    std::printf("%-44s %10.3f %10s %8s  <= %.2f  %s\n", quoi, valeur, "", "", borne,
-                valeur <= borne ? "atteint" : "NON ATTEINT");
+    ::Rangee(quoi, mesure.nous, mesure.autre, borne);
 }
 
 void Ecrire_contenu(const std::wstring & chemin, std::uint64_t taille) {

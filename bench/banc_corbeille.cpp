@@ -1,5 +1,6 @@
 // Measures what it costs to put files into the recycle bin, side by side with as many bare renames, in one run.
 // banc_corbeille.exe WORK-DIRECTORY : prints rows of the table of ratios; exit status 0 when measured.
+#include "mesure.h"
 #include "platform/fichiers.h"
 #include "platform/systeme.h"
 #include "platform/windows.h"
@@ -17,19 +18,6 @@ constexpr std::size_t repertoires    = 10;
 constexpr std::size_t par_repertoire = 500;  // a directory has a thousand coded names a day
 constexpr std::size_t par_lot        = 128;  // files that the erase command hands over at a time
 constexpr int         tours          = 5;
-
-double Secondes() {
-    LARGE_INTEGER compte{}, frequence{};
-    QueryPerformanceCounter(&compte);
-    QueryPerformanceFrequency(&frequence);
-    return static_cast<double>(compte.QuadPart) / static_cast<double>(frequence.QuadPart);
-}
-
-double Duree(const std::function<void()> & travail) {
-    const double debut = Secondes();
-    travail();
-    return Secondes() - debut;
-}
 
 std::vector<Depot> Fichiers(const std::wstring & travail) {
     std::vector<Depot> depots;
@@ -70,11 +58,6 @@ double Renommer(const std::vector<Depot> & depots) {
     });
     for (std::size_t i = 0; i < avant.size(); ++i) MoveFileExW(apres[i].c_str(), avant[i].c_str(), 0);
     return duree;
-}
-
-void Rangee(const char * quoi, double nous, double autre, double borne) {
-    std::printf("%-44s %10.3f %10.3f %8.2f  <= %.2f  %s\n", quoi, nous, autre, nous / autre, borne,
-                nous / autre <= borne ? "atteint" : "NON ATTEINT");
 }
 
 int Mesurer(const std::wstring & travail) {

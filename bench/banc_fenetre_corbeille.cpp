@@ -1,6 +1,7 @@
 // Measures how long the recycle bin's window takes to open over 5,000 files, from the click to its answer.
 // banc_fenetre_corbeille.exe WORK-DIRECTORY PROGRAM.EXE : prints a row of the table of ratios; exit status 0 when measured.
 // It writes the index of the system directory, and a size limit into the KORVANE.INI beside the program.
+#include "mesure.h"
 #include "platform/windows.h"
 
 #include <algorithm>
@@ -15,13 +16,6 @@ constexpr int    par_repertoire = 500;
 constexpr int    fichiers       = repertoires * par_repertoire;
 constexpr int    tours          = 5;
 constexpr double borne          = 0.5;  // seconds
-
-double Secondes() {
-    LARGE_INTEGER compte{}, frequence{};
-    QueryPerformanceCounter(&compte);
-    QueryPerformanceFrequency(&frequence);
-    return static_cast<double>(compte.QuadPart) / static_cast<double>(frequence.QuadPart);
-}
 
 [[noreturn]] void Abandonner(const char * quoi) {
     std::printf("fenêtre de la corbeille, mesure impossible : %s\n", quoi);
@@ -150,7 +144,6 @@ int wmain(int nombre, wchar_t ** arguments) {
     WritePrivateProfileStringW(L"Corbeille", nullptr, nullptr, reglages.c_str());
     SetFileAttributesW(index.c_str(), FILE_ATTRIBUTE_NORMAL);
     DeleteFileW(index.c_str());
-    std::printf("%-44s %10.3f %10s %8s  <= %.2f  %s\n", "corbeille de 5 000 fichiers, ouverture (s)",
-                meilleure, "", "", borne, meilleure <= borne ? "atteint" : "NON ATTEINT");
+    Rangee_absolue("corbeille de 5 000 fichiers, ouverture (s)", meilleure, borne);
     return 0;
 }

@@ -6,6 +6,7 @@
 #include "forms/cde_chercher.h"
 #include "forms/cherche_fichier.h"
 #include "forms/gestion_fichiers.h"
+#include "mesure.h"
 #include "platform/systeme.h"
 #include "platform/windows.h"
 #include "search/cherche_fichier.h"
@@ -22,13 +23,6 @@
 namespace {
 constexpr int tours  = 5;
 constexpr int arrets = 40;
-
-double Secondes() {
-    LARGE_INTEGER compte{}, frequence{};
-    QueryPerformanceCounter(&compte);
-    QueryPerformanceFrequency(&frequence);
-    return static_cast<double>(compte.QuadPart) / static_cast<double>(frequence.QuadPart);
-}
 
 struct Compte {
     std::size_t repertoires = 0;
@@ -122,11 +116,6 @@ double Pire_arret(double premiere, double seconde) {
     return pire;
 }
 
-void Rangee(const char * quoi, double nous, double autre, double borne) {
-    std::printf("%-44s %10.3f %10.3f %8.2f  <= %.2f  %s\n", quoi, nous, autre, nous / autre, borne,
-                nous / autre <= borne ? "atteint" : "NON ATTEINT");
-}
-
 // Turn by turn, so that the state of the machine weighs on all alike; the shortest run is the nearest to the work itself.
 void Mesurer(const std::wstring & unite) {
     std::array<double, 3> meilleures{1e9, 1e9, 1e9};
@@ -141,9 +130,7 @@ void Mesurer(const std::wstring & unite) {
     std::printf("(%zu répertoires, %zu fichiers)\n", compte.repertoires, compte.fichiers);
     Rangee("première recherche / parcours nu", meilleures[1], meilleures[0], 2.2);
     Rangee("recherche suivante / parcours nu", meilleures[2], meilleures[0], 1.2);
-    const double pire = Pire_arret(meilleures[1], meilleures[2]);
-    std::printf("%-44s %10.3f %10s %8s  <= 0.10  %s\n", "arrêt d'une recherche, au pire (s)", pire, "", "",
-                pire <= 0.1 ? "atteint" : "NON ATTEINT");
+    Rangee_absolue("arrêt d'une recherche, au pire (s)", Pire_arret(meilleures[1], meilleures[2]), 0.1);
 }
 
 void Garder_les_resultats(const std::wstring & pret) {

@@ -7,6 +7,7 @@
 #include "app/lancement.h"
 #include "app/settings.h"
 #include "browser/groupe_boutons.h"
+#include "browser/repertoire_lancement.h"
 #include "fileops/lignes_commande.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/profil.h"
@@ -77,7 +78,8 @@ void Executer(const Gestion_Fichiers & f, const std::wstring & caption) {
     std::wstring ligne = Ligne_de(commande);
     if (ligne.empty() || !Accepter_commande(L"EXECUTER\rla commande '" + Nom_bouton(caption) + L"'")) return;
     const std::wstring repertoire =
-        commande.repertoire.empty() ? f.Répertoire_srce.Path() : commande.repertoire;
+        Repertoire_de_lancement(commande.repertoire.empty() ? f.Répertoire_srce.Path() : commande.repertoire);
+    if (repertoire.empty()) return;
     // Before the question: parameters typed for a directory that is not there would be lost.
     const Repertoire_de_travail travail(repertoire);
     if (commande.parametres && !Ajouter_parametres(ligne, commande.cible, repertoire)) return;

@@ -1,13 +1,14 @@
 #include "browser/groupe_boutons.h"
 
 #include <algorithm>
+#include <ranges>
 #include <unordered_set>
 
 namespace {
 // Where the group after these captions begins.
 std::size_t Debut_suivant(const std::vector<std::wstring> & noms, const std::vector<std::wstring> & montres) {
-    for (auto montre = montres.rbegin(); montre != montres.rend(); ++montre) {
-        const auto trouve = std::find(noms.begin(), noms.end(), *montre);
+    for (const std::wstring & montre : std::views::reverse(montres)) {
+        const auto trouve = std::find(noms.begin(), noms.end(), montre);
         if (trouve != noms.end()) return static_cast<std::size_t>(trouve - noms.begin()) + 1;
     }
     return 0;

@@ -4,6 +4,7 @@
 #include "app/garde.h"
 #include "app/globals.h"
 #include "app/lancement.h"
+#include "browser/repertoire_lancement.h"
 #include "fileops/lignes_commande.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/erreur.h"
@@ -41,9 +42,9 @@ void Rappeler(Gestion_Fichiers & f, int pas) {
 }
 
 // False when there is no such program.
-bool Lancer_si_present(const std::wstring & ligne) {
+bool Lancer_si_present(const std::wstring & ligne, const std::wstring & repertoire) {
     try {
-        Lancer(ligne);
+        Lancer(ligne, repertoire);
         return true;
     } catch (const Erreur_execution & erreur) {
         if (erreur.numero != Numero::fichier_introuvable) throw;
@@ -60,8 +61,10 @@ void Signaler_introuvable(const Gestion_Fichiers & f, const std::wstring & comma
 
 void Executer(Gestion_Fichiers & f, const std::wstring & commande) {
     Memoriser(f.Ligne_commande, commande);
+    const std::wstring repertoire = Repertoire_de_lancement(f.Répertoire_srce.Path());
+    if (repertoire.empty()) return;
     const std::wstring ligne = Ligne_saisie(commande);
-    if (!Lancer_si_present(ligne) && !Lancer_si_present(Avec_com(ligne)))
+    if (!Lancer_si_present(ligne, repertoire) && !Lancer_si_present(Avec_com(ligne), repertoire))
         return Signaler_introuvable(f, commande);
     // What is typed next takes the command's place, and Enter runs it again.
     f.Ligne_commande.Selectionner(static_cast<int>(f.Ligne_commande.Text().find(L'>') + 1));

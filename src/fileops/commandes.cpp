@@ -19,15 +19,16 @@ void Effacer_du_clavier() {
 }  // namespace
 
 void Brancher_commandes(Gestion_Fichiers & f) {
-    f.Editer.Brancher(Editer_Click);
-    f.Visualiser.Brancher(Visualiser_Click);
-    f.Exécuter.Brancher(Exécuter_Click);
     f.Copier.Brancher(Copier_Click);
     f.Déplacer.Brancher(Déplacer_Click);
     f.Effacer.Brancher(Effacer_Click);
     f.Supprimer.Brancher(Supprimer_Click);
     f.Renommer.Brancher(Renommer_Click);
     f.Créer.Brancher(Créer_Click);
+    f.Editer.Brancher(Editer_Click);
+    f.Visualiser.Brancher(Visualiser_Click);
+    f.Exécuter.Brancher(Exécuter_Click);
+    f.Imprimer.Brancher(Imprimer_Click);
     f.Répertoire_srce.KeyDown = Sur_suppr(Supprimer_Click);
     f.Fichier_srce.KeyDown    = Sur_suppr(Effacer_du_clavier);
     f.Fichier_sél.KeyDown     = Sur_suppr(Effacer_du_clavier);

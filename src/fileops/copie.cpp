@@ -4,7 +4,9 @@
 #include "app/globals.h"
 #include "app/routines.h"
 #include "fileops/confirmations.h"
+#include "fileops/fin_de_session.h"
 #include "fileops/jauge.h"
+#include "fileops/jauge_montree.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/erreur.h"
 #include "platform/fichiers.h"
@@ -15,17 +17,6 @@
 #include "toolkit/boites.h"
 
 namespace {
-// While it lives, Windows shutting down removes the half-made target before the process ends.
-class Abandon_en_fin_de_session {
-public:
-    explicit Abandon_en_fin_de_session(Transfert & transfert) {
-        Application::Fin_de_session([&transfert] { transfert.Abandonner(); });
-    }
-    ~Abandon_en_fin_de_session() { Application::Fin_de_session(nullptr); }
-    Abandon_en_fin_de_session(const Abandon_en_fin_de_session &)             = delete;
-    Abandon_en_fin_de_session & operator=(const Abandon_en_fin_de_session &) = delete;
-};
-
 Copie Conclure(Copie copie, int reponse) {
     variables.Reponse = reponse;
     return copie;
@@ -39,27 +30,14 @@ void Refuser_copie_sur_soi() {
                   Boite::ok | Boite::exclamation, variables.Commande_en_cours);
 }
 
-void Montrer_jauge(Gestion_Fichiers & f, const Avance & avance) {
-    f.Jauge.Value(avance.Pourcentage());
-    f.Jauge.Caption(avance.Visible() ? avance.Texte() : L"");
-    f.Jauge.Visible(avance.Visible());
-    for (Ligne & bord : f.Ligne_jauge) bord.Visible(avance.Visible());
-}
-
 // Moves the file block by block; false when the user stopped it.
 bool Transferer(Gestion_Fichiers & f, Transfert & transfert) {
     Avance avance(transfert.Longueur());
-    Montrer_jauge(f, avance);
+    Montrer_jauge(f, avance, avance.Visible());
     for (;;) {
         if (variables.Arret_demande) return false;
         if (!transfert.Bloc()) return true;
-        if (avance.Visible()) {
-            const int avant = static_cast<int>(avance.Pourcentage());
-            avance.Ajouter(Transfert::taille_bloc);
-            f.Jauge.Value(avance.Pourcentage());
-            // The text follows whole percents: writing it at each block would cost more than the block.
-            if (static_cast<int>(avance.Pourcentage()) != avant) f.Jauge.Caption(avance.Texte());
-        }
+        if (avance.Visible()) Avancer_jauge(f, avance, Transfert::taille_bloc);
         Application::Laisser_passer();
     }
 }
@@ -84,7 +62,7 @@ Copie Copier_fichier(Gestion_Fichiers & f, bool durable, Remplacement remplaceme
     }
     // A source that cannot be read must not cost the target that it was to replace.
     Transfert                       transfert(variables.Chemin_source);
-    const Abandon_en_fin_de_session abandon(transfert);
+    const Abandon_en_fin_de_session abandon([&transfert] { transfert.Abandonner(); });
     if (existait) Supprimer_fichier(variables.Chemin_cible);
     if (transfert.Longueur() == 0) return Copie::vide;
     f.Arret.Visible(true);

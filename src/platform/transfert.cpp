@@ -2,6 +2,7 @@
 
 #include "platform/erreur.h"
 #include "platform/fichiers.h"
+#include "platform/ouverture.h"
 #include "platform/poignee.h"
 
 #include <algorithm>
@@ -65,22 +66,6 @@ bool Regler(HANDLE fichier, FILE_BASIC_INFO & reglages) {
         reglages.FileAttributes = voulus;
     }
     return SetFileInformationByHandle(fichier, FileBasicInfo, &reglages, sizeof reglages) != FALSE;
-}
-
-// A device opens like a file and never ends.
-std::wstring Forme_de_fichier(const std::wstring & chemin) {
-    std::wstring forme = Forme_longue(chemin);
-    if (forme.empty() || forme.starts_with(L"\\\\.\\"))
-        throw Erreur_execution(Numero::canal_incorrect, ERROR_INVALID_NAME, chemin);
-    return forme;
-}
-
-[[noreturn]] void Lever_ouverture(const std::wstring & chemin) {
-    const DWORD code = GetLastError();
-    const bool  obstacle =
-        code == ERROR_ACCESS_DENIED || code == ERROR_FILE_EXISTS || code == ERROR_ALREADY_EXISTS;
-    if (obstacle && Repertoire_existe(chemin)) throw Erreur_execution(Numero::acces_fichier, code, chemin);
-    Lever_code(code, Acte::ouvrir, chemin);
 }
 
 }  // namespace

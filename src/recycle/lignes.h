@@ -12,7 +12,7 @@ enum class Presence {
     absente,        // its directory can be read and does not hold it
     inaccessible,   // the directory or the drive cannot be reached
     autre_support,  // not on the medium that is in its drive now, or that drive may be another one
-    autre_fichier,  // its name is that of a file of another length, which is not its own
+    autre_fichier,  // its name is that of a file of another length, not read-only, which is not its own
 };
 
 // One line of the index, as it stands there: bytes that are not understood are kept as they are.

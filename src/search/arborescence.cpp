@@ -79,26 +79,33 @@ private:
     std::vector<Place> places_;
 };
 
-// False when `suivi` ended it.
-bool Lire_sous_repertoires(const Arbre & arbre, std::size_t index, const Suivi_parcours & suivi,
-                           Noms & noms) {
+// Who follows a walk.
+struct Temoins {
+    const Suivi_parcours &  suivi;
+    const Visite_parcours & visite;
+};
+
+// False when the watcher ended it.
+bool Lire_sous_repertoires(const Arbre & arbre, std::size_t index, const Temoins & temoins, Noms & noms) {
     noms.Vider();
-    std::size_t vus     = 0;
-    const auto  visiter = [&](const Entree_vue & entree) {
+    const std::wstring repertoire = arbre.Chemin(index);
+    std::size_t        vus        = 0;
+    const auto         visiter    = [&](const Entree_vue & entree) {
         if (entree.repertoire && !entree.lien) noms.Ajouter(entree.nom);
-        return ++vus % entre_deux_regards != 0 || suivi(arbre, index);
+        if (temoins.visite) temoins.visite(repertoire, entree);
+        return ++vus % entre_deux_regards != 0 || temoins.suivi(arbre, index);
     };
-    return Enumerer(arbre.Chemin(index), visiter) && noms.Trier([&] { return suivi(arbre, index); });
+    return Enumerer(repertoire, visiter) && noms.Trier([&] { return temoins.suivi(arbre, index); });
 }
 
 // The same within a walk, which goes on behind a directory that cannot be read.
-bool Lire_ou_sauter(Memoire & m, std::size_t index, const Suivi_parcours & suivi, Noms & noms) {
+bool Lire_ou_sauter(Memoire & m, std::size_t index, const Temoins & temoins, Noms & noms) {
     try {
-        return Lire_sous_repertoires(m.arbre, index, suivi, noms);
+        return Lire_sous_repertoires(m.arbre, index, temoins, noms);
     } catch (const Erreur_execution & erreur) {
         if (Repertoire_saute(erreur, index)) ++m.sautes;
         // What was listed before the failure is part of the disk all the same.
-        return noms.Trier([&] { return suivi(m.arbre, index); });
+        return noms.Trier([&] { return temoins.suivi(m.arbre, index); });
     }
 }
 
@@ -110,12 +117,12 @@ bool Ajouter_noms(Memoire & m, std::size_t index, const Suivi_parcours & suivi, 
     return true;
 }
 
-bool Relever(Memoire & m, const Suivi_parcours & suivi) {
+bool Relever(Memoire & m, const Temoins & temoins) {
     Noms noms;
     // The tree grows during the walk: this is what makes it go level by level.
     for (std::size_t i = 0; i < m.arbre.Nombre(); ++i) {
-        if (!suivi(m.arbre, i) || !Lire_ou_sauter(m, i, suivi, noms)) return false;
-        if (!Ajouter_noms(m, i, suivi, noms)) return false;
+        if (!temoins.suivi(m.arbre, i) || !Lire_ou_sauter(m, i, temoins, noms)) return false;
+        if (!Ajouter_noms(m, i, temoins.suivi, noms)) return false;
         m.racine_lue = true;
     }
     return true;
@@ -132,8 +139,9 @@ bool Repond_encore(const Memoire & m) {
 bool Meme_premier_niveau(const Memoire & m) {
     Noms noms;
     try {
-        const Suivi_parcours sans_arret = [](const Arbre &, std::size_t) { return true; };
-        Lire_sous_repertoires(m.arbre, 0, sans_arret, noms);
+        const Suivi_parcours  sans_arret = [](const Arbre &, std::size_t) { return true; };
+        const Visite_parcours sans_visite;
+        Lire_sous_repertoires(m.arbre, 0, {sans_arret, sans_visite}, noms);
     } catch (const Erreur_execution &) {
         return false;
     }
@@ -156,7 +164,8 @@ bool Arborescence_valide(const std::wstring & unite) {
     return !m.racine_lue || !Support_amovible(unite.substr(0, 2) + L"\\") || Meme_premier_niveau(m);
 }
 
-bool Relever_arborescence(const std::wstring & unite, const Suivi_parcours & suivi) {
+bool Relever_arborescence(const std::wstring & unite, const Suivi_parcours & suivi,
+                          const Visite_parcours & visite) {
     Memoire & m  = Memorisee();
     m.support    = Identite_support(unite);
     m.racine_lue = false;
@@ -164,7 +173,7 @@ bool Relever_arborescence(const std::wstring & unite, const Suivi_parcours & sui
     m.sautes     = 0;
     m.arbre.Commencer(unite.substr(0, 2) + L"\\");
     try {
-        m.entiere = Relever(m, suivi);
+        m.entiere = Relever(m, {suivi, visite});
     } catch (...) {
         m.arbre.Vider();
         throw;

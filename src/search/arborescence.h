@@ -1,5 +1,6 @@
 #pragma once
 #include "platform/erreur.h"
+#include "platform/parcours.h"
 #include "search/arbre.h"
 
 #include <cstddef>
@@ -12,6 +13,10 @@
 // walk. It lets events run.
 using Suivi_parcours = std::function<bool(const Arbre & arbre, std::size_t index)>;
 
+// Sees each entry of the directories walked while it is listed: the directories in the order of the tree, what each holds in
+// the order of the system.
+using Visite_parcours = std::function<void(const std::wstring & repertoire, const Entree_vue & entree)>;
+
 const Arbre & Arborescence();
 // Whether the tree kept is that of this drive ("C:") and its medium, and no directory was made, renamed or removed
 // since by the program.
@@ -19,7 +24,8 @@ bool Arborescence_valide(const std::wstring & unite);
 // Walks the drive again. Directories that cannot be read are skipped and counted, links are not followed. False
 // when `suivi` ended the walk: what was walked stays and counts as the tree. Errors of the root (68, 70, 71, 76), or of
 // a drive that is lost on the way (68, 71); nothing is kept then.
-bool        Relever_arborescence(const std::wstring & unite, const Suivi_parcours & suivi);
+bool        Relever_arborescence(const std::wstring & unite, const Suivi_parcours & suivi,
+                                 const Visite_parcours & visite = {});
 bool        Arborescence_entiere();  // the last walk came to its end
 std::size_t Repertoires_sautes();    // of the last walk
 // What the failure to list the tree's directory `index` means. When the drive still answers and holds the medium that was

@@ -17,6 +17,7 @@
 #include "toolkit/application.h"
 #include "toolkit/boites.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -28,7 +29,7 @@ constexpr std::size_t   lot_maximal = 2000;  // entries added at once: the stop 
 
 struct Fenetre_recherche : Cherche_Fichier {
     bool                        active = false;  // walking or searching
-    std::vector<Fichier_trouve> trouves;         // of Liste_sél, entry by entry
+    std::vector<Fichier_trouve> trouves;         // of Liste_sél, entry by entry; ahead of it during a search
     std::vector<Fichier_trouve> choisis;
 };
 
@@ -36,8 +37,6 @@ struct Fenetre_recherche : Cherche_Fichier {
 class Avancement {
 public:
     explicit Avancement(Fenetre_recherche & c) : c_(c) {}
-
-    std::size_t Nombre() const { return nombre_; }
 
     bool Continuer_parcours(const Arbre & arbre, std::size_t index) {
         if (Echeance()) {
@@ -54,16 +53,26 @@ public:
     }
 
     void Ajouter(Fichier_trouve fichier) {
-        ++nombre_;
-        en_attente_.push_back(Minuscules(fichier.chemin));
         c_.trouves.push_back(std::move(fichier));
-        if (en_attente_.size() >= lot_maximal) Montrer();
+        if (c_.trouves.size() - montres_ >= lot_maximal) Montrer();
     }
 
-    void Montrer() {
-        c_.Liste_sél.Ajouter(en_attente_);
-        en_attente_.clear();
-        c_.Mess_infos.Caption(Libelle_trouves(nombre_));
+    // The next of the files found that the list does not show yet; false when there are more.
+    bool Montrer() {
+        const std::size_t         fin = std::min(montres_ + lot_maximal, c_.trouves.size());
+        std::vector<std::wstring> lot;
+        for (; montres_ < fin; ++montres_) lot.push_back(Minuscules(c_.trouves[montres_].chemin));
+        c_.Liste_sél.Ajouter(lot);
+        c_.Mess_infos.Caption(Libelle_trouves(montres_));
+        return montres_ == c_.trouves.size();
+    }
+
+    // Lists what a walk found. False when the user cancelled.
+    bool Montrer_tout() {
+        while (!Montrer()) {
+            if (!Poursuivre()) return false;
+        }
+        return Poursuivre();
     }
 
 private:
@@ -79,10 +88,9 @@ private:
         return !variables.Recherche_annulee && !Application::Terminee();
     }
 
-    Fenetre_recherche &       c_;
-    std::vector<std::wstring> en_attente_;
-    std::size_t               nombre_  = 0;
-    std::uint64_t             dernier_ = 0;  // Horloge_ms of the last update, 0 before the first
+    Fenetre_recherche & c_;
+    std::size_t         montres_ = 0;  // files found that the list shows
+    std::uint64_t       dernier_ = 0;  // Horloge_ms of the last update, 0 before the first
 };
 
 void Fermer(Fenetre_recherche & c) {
@@ -114,13 +122,32 @@ void OK_Click(Fenetre_recherche & c) {
     Fermer(c);
 }
 
-// False when the user cancelled.
-bool Lire_arborescence(Fenetre_recherche & c, const std::wstring & unite) {
-    if (Arborescence_valide(unite)) return true;
-    Avancement avancement(c);
-    return Relever_arborescence(unite, [&](const Arbre & arbre, std::size_t index) {
-        return avancement.Continuer_parcours(arbre, index);
-    });
+void Annoncer_recherche(Fenetre_recherche & c) {
+    c.Mess_infos.Caption(Libelle_trouves(0));
+    Application::Laisser_passer(true);
+}
+
+Bilan_recherche Chercher_dans_arborescence(Fenetre_recherche & c, const Demande_recherche & demande) {
+    Annoncer_recherche(c);
+    Avancement            avancement(c);
+    const Bilan_recherche bilan = Rechercher(
+        demande, [&](Fichier_trouve fichier) { avancement.Ajouter(std::move(fichier)); },
+        [&] { return avancement.Continuer_recherche(); });
+    if (bilan.entiere) avancement.Montrer();
+    return bilan;
+}
+
+// The progress line goes to the directories; what they hold is kept until the last of them has been seen.
+Bilan_recherche Chercher_en_parcourant(Fenetre_recherche & c, const std::wstring & unite,
+                                       const Demande_recherche & demande) {
+    Avancement      avancement(c);
+    Bilan_recherche bilan = Relever_et_rechercher(
+        unite, demande, [&](Fichier_trouve fichier) { c.trouves.push_back(std::move(fichier)); },
+        [&](const Arbre & arbre, std::size_t index) { return avancement.Continuer_parcours(arbre, index); });
+    if (!bilan.entiere) return bilan;
+    Annoncer_recherche(c);
+    bilan.entiere = avancement.Montrer_tout();
+    return bilan;
 }
 
 void Signaler_rien(Fenetre_recherche & c, const std::wstring & unite) {
@@ -137,26 +164,20 @@ void Proposer_choix(Fenetre_recherche & c) {
 }
 
 void Chercher(Fenetre_recherche & c) {
-    const Gestion_Fichiers & f      = Principale();
-    const auto &             cde    = static_cast<const Cde_Chercher &>(*fenetres.cde_chercher);
-    const std::wstring       unite  = f.Unité_srce.Drive().substr(0, 2);
-    const bool               caches = f.Fichier_srce.Hidden();
+    const Gestion_Fichiers & f     = Principale();
+    const auto &             cde   = static_cast<const Cde_Chercher &>(*fenetres.cde_chercher);
+    const std::wstring       unite = f.Unité_srce.Drive().substr(0, 2);
+    const Demande_recherche  demande{variables.Modele_cherche, cde.Fichiers_exclus.Text(),
+                                    f.Fichier_srce.Hidden()};
     c.Recherche.Caption(Majuscules(variables.Modele_cherche));
-    if (!Lire_arborescence(c, unite)) return;
-    c.Mess_infos.Caption(Libelle_trouves(0));
-    Application::Laisser_passer(true);
-    Avancement            avancement(c);
-    const Bilan_recherche bilan = Rechercher(
-        {variables.Modele_cherche, cde.Fichiers_exclus.Text(), caches},
-        [&](Fichier_trouve fichier) { avancement.Ajouter(std::move(fichier)); },
-        [&] { return avancement.Continuer_recherche(); });
+    const Bilan_recherche bilan = Arborescence_valide(unite) ? Chercher_dans_arborescence(c, demande)
+                                                             : Chercher_en_parcourant(c, unite, demande);
     if (!bilan.entiere || variables.Recherche_annulee) return;
-    avancement.Montrer();
     Noter_sautes(bilan.sautes);
     c.active                  = false;
     variables.Recherche_faite = true;
     Bip();
-    if (avancement.Nombre() == 0)
+    if (c.trouves.empty())
         Signaler_rien(c, unite);
     else
         Proposer_choix(c);

@@ -36,15 +36,15 @@ Fichier_trouve Trouve(const std::wstring & repertoire, const Entree_vue & entree
 }
 }  // namespace
 
-Bilan_recherche Rechercher(const Demande_recherche &                   demande,
-                           const std::function<void(Fichier_trouve)> & trouver,
-                           const std::function<bool()> &               continuer) {
-    const Arbre &   arbre = Arborescence();
-    const Filtre    filtre(demande);
-    Bilan_recherche bilan;
-    std::wstring    repertoire;
-    std::size_t     vus     = 0;
-    const auto      visiter = [&](const Entree_vue & entree) {
+Bilan_recherche Rechercher(const Demande_recherche & demande, const Reception & trouver,
+                           const std::function<bool()> & continuer) {
+    const Arbre &      arbre = Arborescence();
+    const Filtre       filtre(demande);
+    const std::wstring requete = Requete(demande.modele);
+    Bilan_recherche    bilan;
+    std::wstring       repertoire;
+    std::size_t        vus     = 0;
+    const auto         visiter = [&](const Entree_vue & entree) {
         if (filtre.Retient(entree)) trouver(Trouve(repertoire, entree));
         return ++vus % entre_deux_regards != 0 || continuer();
     };
@@ -52,11 +52,23 @@ Bilan_recherche Rechercher(const Demande_recherche &                   demande,
         if (!continuer()) return bilan;
         repertoire = arbre.Chemin(i);
         try {
-            if (!Enumerer(repertoire, visiter)) return bilan;
+            if (!Enumerer(repertoire, visiter, requete)) return bilan;
         } catch (const Erreur_execution & erreur) {
             if (Repertoire_saute(erreur, i)) ++bilan.sautes;
         }
     }
     bilan.entiere = true;
+    return bilan;
+}
+
+Bilan_recherche Relever_et_rechercher(const std::wstring & unite, const Demande_recherche & demande,
+                                      const Reception & trouver, const Suivi_parcours & suivi) {
+    const Filtre filtre(demande);
+    const auto   visiter = [&](const std::wstring & repertoire, const Entree_vue & entree) {
+        if (filtre.Retient(entree)) trouver(Trouve(repertoire, entree));
+    };
+    Bilan_recherche bilan;
+    bilan.entiere = Relever_arborescence(unite, suivi, visiter);
+    bilan.sautes  = Repertoires_sautes();
     return bilan;
 }

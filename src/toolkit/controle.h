@@ -84,7 +84,7 @@ protected:
     friend class Fenetre;
     friend class Saisie_clavier;
 
-    // A notification of the control to its window (WM_COMMAND code, WM_HSCROLL code).
+    // A notification of the control to its window: the code of WM_COMMAND, or code and position of WM_HSCROLL.
     virtual void Notification(unsigned code) { (void)code; }
     // A message of the control before its own treatment; true with `resultat` set when it is finished.
     virtual bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large, std::intptr_t & resultat);

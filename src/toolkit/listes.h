@@ -64,7 +64,8 @@ public:
     int          ListCount() const;
     std::wstring List(int index) const;
     int          ListIndex() const;
-    void         ListIndex(int index);  // raises Click when it changes
+    void         ListIndex(int index);                              // raises Click when it changes
+    void         Choisir(int index) { Choisir_en_silence(index); }  // raises nothing
     void         AddItem(const std::wstring & texte);
     void         RemoveItem(int index);
     void         Clear();

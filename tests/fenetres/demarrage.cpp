@@ -4,6 +4,9 @@
 
 #include <cstdlib>
 #include <cwctype>
+#include <set>
+
+#include <tlhelp32.h>
 
 using namespace Pilote;
 
@@ -15,6 +18,18 @@ const std::wstring titre_fichier = L"Gestionnaire de fichiers  (Mode fichier)   
 std::wstring Minuscules(std::wstring texte) {
     for (wchar_t & lettre : texte) lettre = static_cast<wchar_t>(std::towlower(lettre));
     return texte;
+}
+
+std::set<std::wstring> Bibliotheques_chargees(DWORD processus) {
+    std::set<std::wstring> noms;
+    const HANDLE           photo  = CreateToolhelp32Snapshot(TH32CS_SNAPMODULE, processus);
+    MODULEENTRY32W         module = {};
+    module.dwSize                 = sizeof module;
+    for (BOOL encore = Module32FirstW(photo, &module); encore != FALSE;
+         encore      = Module32NextW(photo, &module))
+        noms.insert(Minuscules(module.szModule));
+    CloseHandle(photo);
+    return noms;
 }
 
 }  // namespace
@@ -105,6 +120,15 @@ TEST_F(Demarrage, un_exemplaire_peut_etre_lance_apres_la_fin_du_premier) {
     Fermer();
     Lancer();
     EXPECT_EQ(Texte(Principale()), titre_fichier);
+}
+
+// The spooler brings several megabytes of libraries along; a session that prints nothing and chooses no file has none of them.
+TEST_F(Demarrage, au_repos_ni_l_impression_ni_les_boites_communes_ne_sont_chargees) {
+    Lancer();
+    const std::set<std::wstring> bibliotheques = Bibliotheques_chargees(programme->Numero());
+    EXPECT_TRUE(bibliotheques.contains(L"comctl32.dll"));
+    for (const wchar_t * nom : {L"winspool.drv", L"comdlg32.dll"})
+        EXPECT_FALSE(bibliotheques.contains(nom)) << Utf8(nom);
 }
 
 TEST_F(Demarrage, les_deux_volets_s_ouvrent_sur_le_repertoire_demande) {

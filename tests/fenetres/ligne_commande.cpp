@@ -177,6 +177,29 @@ TEST_F(Ligne_de_commande, les_autres_echecs_sont_signales_par_leur_message) {
     ATTENDRE(A_le_focus(L"Ligne_commande"));
 }
 
+TEST_F(Ligne_de_commande, dans_un_repertoire_trop_long_rien_ne_part_ailleurs_a_sa_place) {
+    std::wstring fond = source;
+    for (int i = 0; i < 30; ++i) fond += L"\\répertoire" + std::to_wstring(i);
+    Creer_dossier(fond);
+    Installer_enregistreur(Source(L"X.EXE"));
+    Regler(L"Boutons", L"Bouton", L"X.EXE ?");
+    Lancer_sur_source();
+    Remplacer_texte(L"Chemin_srce", fond);
+    Frapper(VK_RETURN);
+    ATTENDRE(A_le_focus(L"Fichier_srce"));
+    const std::wstring message =
+        L"Le chemin du répertoire de travail est trop long pour y lancer une commande.";
+    Cliquer(L"Prompt");
+    ATTENDRE(Ligne() == fond + L">");
+    Saisir(Source(L"X.EXE"));
+    Attendre_avertissement(message);
+    ATTENDRE(A_le_focus(L"Ligne_commande"));
+    EXPECT_EQ(Ligne(), fond + L">" + Source(L"X.EXE"));
+    Commencer(L"Bouton(0)");
+    Attendre_avertissement(message);
+    Rien_de_plus();
+}
+
 TEST_F(Ligne_de_commande, la_trente_et_unieme_commande_chasse_la_plus_ancienne_de_la_liste) {
     Installer_enregistreur(Source(L"X.EXE"));
     Lancer_sur_source();

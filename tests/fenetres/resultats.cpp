@@ -335,6 +335,28 @@ TEST_F(Resultats_D, copier_s_arrete_a_un_fichier_disparu_et_le_reste_demeure_cho
     EXPECT_EQ(Noms(L"D:\\vers"), (Textes{L"a.txt", L"c.txt", L"lisez.moi"}));
 }
 
+// The one that is gone stood above the first line shown: the same results are still before the user's eyes.
+TEST_F(Resultats_D, une_longue_liste_reste_a_sa_place_apres_une_erreur) {
+    constexpr int nombre = 100, disparu = 30, premier_montre = 50;
+    Textes        noms;
+    for (int i = 0; i < nombre; ++i) {
+        noms.push_back(L"d:\\un\\r" + std::to_wstring(nombre + i) + L".dat");
+        Creer_fichier(noms.back(), "x");
+    }
+    Lancer_sur_d();
+    Ouvrir(L"dest", L"d:\\vers");
+    Porter(L"r*", noms);
+    const HWND liste = Controle(L"Fichier_sél");
+    SendMessageW(liste, LB_SETTOPINDEX, premier_montre, 0);
+    ASSERT_EQ(SendMessageW(liste, LB_GETTOPINDEX, 0, 0), premier_montre);
+    ASSERT_TRUE(Effacer(noms[disparu]));
+    Cliquer(L"Copier");
+    Introuvable(L"R130.DAT");
+    Attendre_fin_commande();
+    EXPECT_EQ(SendMessageW(liste, LB_GETCOUNT, 0, 0), nombre - 1);
+    EXPECT_EQ(SendMessageW(liste, LB_GETTOPINDEX, 0, 0), premier_montre - 1);
+}
+
 TEST_F(Resultats_D, deplacer_s_arrete_a_un_fichier_protege_qui_reste_choisi_avec_la_suite) {
     Lancer_sur_d();
     Choisir_unite(L"Unité_dest", L'c');

@@ -38,6 +38,44 @@ TEST_F(Enumeration, chaque_entree_dit_ce_qu_elle_est) {
     EXPECT_EQ((Liste{L"fichier 5", L"sous repertoire"}), vues);
 }
 
+// What the mask leaves out is no sign of a missing directory, which stays an error.
+TEST_F(Enumeration, un_masque_epargne_les_autres_noms_et_un_repertoire_absent_reste_une_erreur) {
+    for (const wchar_t * nom : {L"a.txt", L"B.TXT", L"c.doc"}) Fichier(nom);
+    Repertoire(L"sous");
+    const auto sous_masque = [](const std::wstring & repertoire, const wchar_t * masque) {
+        Liste vues;
+        EXPECT_TRUE(Enumerer(
+            repertoire,
+            [&](const Entree_vue & vue) {
+                vues.emplace_back(vue.nom);
+                return true;
+            },
+            masque));
+        std::sort(vues.begin(), vues.end());
+        return vues;
+    };
+    EXPECT_EQ((Liste{L"B.TXT", L"a.txt"}), sous_masque(Racine(), L"*.txt"));
+    EXPECT_EQ(Liste{}, sous_masque(Racine(), L"*.xyz"));
+    EXPECT_EQ(Liste{}, sous_masque(Racine() + L"\\sous", L"*.txt"));
+    for (const wchar_t * masque : {L"*", L"*.txt"})
+        EXPECT_EQ(76, Numero_leve([&] { sous_masque(Racine() + L"\\absent", masque); })) << masque;
+}
+
+// A path that needs no prefix for itself may need one with its mask: all is visited then.
+TEST_F(Enumeration, un_chemin_a_la_limite_de_longueur_se_lit_sous_un_long_masque) {
+    std::wstring nom(100, L'r');
+    Repertoire(nom);
+    nom += L"\\" + std::wstring(244 - Chemin(nom).size(), L's');
+    const std::wstring repertoire = Repertoire(nom);
+    ASSERT_EQ(245u, repertoire.size());
+    Fichier(nom + L"\\fin.txt");
+    int vues = 0;
+    EXPECT_TRUE(Enumerer(
+        repertoire, [&](const Entree_vue & vue) { return vues += vue.nom == L"fin.txt", true; },
+        L"f*" + std::wstring(30, L'z')));
+    EXPECT_EQ(1, vues);
+}
+
 bool Toujours(const Arbre &, std::size_t) { return true; }
 
 Liste Chemins() {
@@ -164,6 +202,39 @@ ESSAI_UNITE(D, la_recherche_donne_les_chemins_du_disque_et_les_longueurs_et_les_
     EXPECT_EQ((Liste{L"d:\\fichier.txt 1", L"d:\\zone\\Cache.txt 2", L"d:\\zone\\Vu.TXT 5"}),
               Trouves({L"*.txt", L"", true}, bilan));
     EXPECT_TRUE(bilan.entiere);
+}
+
+// One listing of each directory gives what two gave: the same files in the same order.
+ESSAI_UNITE(D, chercher_en_relevant_donne_l_arborescence_et_les_fichiers_d_une_recherche_qui_la_suit) {
+    Preparer_d();
+    for (int i = 0; i < 40; ++i)
+        for (const wchar_t * ou : {L"d:\\", L"d:\\zone\\", L"d:\\Alpha\\fond\\cache\\"})
+            Poser(ou + std::to_wstring(i * 7 % 40) + (i % 2 ? L".txt" : L".doc"), "12");
+    Regler_attributs(L"d:\\zone\\7.txt", FILE_ATTRIBUTE_HIDDEN);
+    Liste      en_relevant, ensuite;
+    const auto vers = [](Liste & liste) {
+        return [&](const Fichier_trouve & fichier) { liste.push_back(fichier.chemin); };
+    };
+    const Demande_recherche demande{L"*.txt", L"1?.*", false};
+    const Bilan_recherche   bilan = Relever_et_rechercher(L"d:", demande, vers(en_relevant), Toujours);
+    EXPECT_TRUE(bilan.entiere);
+    EXPECT_EQ(0u, bilan.sautes);
+    EXPECT_EQ(8u, Arborescence().Nombre());
+    EXPECT_TRUE(Arborescence_valide(L"d:") && Arborescence_entiere());
+    EXPECT_TRUE(Rechercher(demande, vers(ensuite), [] { return true; }).entiere);
+    EXPECT_EQ(ensuite, en_relevant);
+    // Of 20 in each of three directories one was hidden and 5 were left out, and the root has one more.
+    EXPECT_EQ(3 * 15 - 1 + 1u, en_relevant.size());
+}
+
+ESSAI_UNITE(D, une_recherche_arretee_en_relevant_laisse_ce_qu_elle_a_parcouru) {
+    Preparer_d();
+    const auto deux_repertoires = [](const Arbre &, std::size_t index) { return index < 2; };
+    const auto rien             = [](const Fichier_trouve &) {};
+    EXPECT_FALSE(Relever_et_rechercher(L"d:", {L"*.txt", L"", false}, rien, deux_repertoires).entiere);
+    EXPECT_EQ(5u, Arborescence().Nombre());
+    EXPECT_TRUE(Arborescence_valide(L"d:"));
+    EXPECT_FALSE(Arborescence_entiere());
 }
 
 ESSAI_UNITE(D, un_repertoire_disparu_depuis_le_parcours_n_est_pas_dit_illisible) {
