@@ -34,7 +34,7 @@ std::wstring Transmissible(const std::wstring &                                 
     };
     const bool tel = convient(chemin);
     if (tel && chemin.size() < limite_usuelle) return chemin;
-    const std::wstring court = Chemin_court(chemin);
+    std::wstring court = Chemin_court(chemin);
     if (convient(court)) return court;
     if (tel) return chemin;
     Refuser(chemin);

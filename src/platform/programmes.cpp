@@ -31,7 +31,7 @@ unsigned Demarrer(const std::wstring & ligne) {
 
 std::wstring Chemin_transmissible(const std::wstring & chemin) {
     if (Tient_en_ansi(chemin)) return chemin;
-    const std::wstring court = Chemin_court(chemin);
+    std::wstring court = Chemin_court(chemin);
     if (court.empty() || !Tient_en_ansi(court)) throw Erreur_execution(Numero::nom_incorrect, 0, chemin);
     return court;
 }
