@@ -203,7 +203,7 @@ essais_windows() {
     dire "logique, services et fenêtres sans écran"
     if [ "$variante" != fenetres ]; then
         noms=(coupures services logique-windows)
-        au_plus "$cote" lancer_essais coupures null 96 600 "$programmes/tests_services.exe" \
+        au_plus "$cote" lancer_essais coupures null 96 900 "$programmes/tests_services.exe" \
             '--gtest_filter=Actes/Coupures*'
     fi
     for nom in $(seq "$tranches"); do
