@@ -7,6 +7,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 racine=$PWD
 source outils/wine.sh
+source outils/ecran.sh
 
 demonstration=non
 [ -n "${DISPLAY:-}" ] || demonstration=oui
@@ -42,47 +43,24 @@ ouvrir() {
     wine "$racine/build/windows-x64/KORVANE.EXE" </dev/null >"$racine/build/korvane.txt" 2>&1
 }
 
-# A screen of its own, on the first free number.
-allumer_ecran() {
-    local numero=build/demonstration/ecran
-    : >"$numero"
-    Xvfb -displayfd 3 -screen 0 800x600x24 -nolisten tcp 3>"$numero" </dev/null >/dev/null 2>&1 &
-    ecran=$!
-    for _ in $(seq 100); do
-        [ -s "$numero" ] && break
-        sleep 0.1
-    done
-    [ -s "$numero" ] || {
-        echo "Xvfb n'a pas démarré" >&2
-        return 1
-    }
-    DISPLAY=:$(cat "$numero")
-    export DISPLAY
-    rm -f "$numero"
-}
-
 nettoyer() {
     fermer_wine
-    [ -n "${ecran:-}" ] && kill "$ecran" 2>/dev/null
-    return 0
+    eteindre_ecran
 }
 
 demontrer() {
-    local resultat=0 image
+    local resultat=0
     rm -rf build/demonstration
     mkdir -p build/demonstration
     export WINEPREFIX=$racine/build/prefixe-demonstration
     outils/prefixe.sh nouveau build/prefixe-modele "$WINEPREFIX" nu
     ln -sfn "$HOME" "$WINEPREFIX/dosdevices/h:"
     trap nettoyer EXIT
-    allumer_ecran
+    allumer_ecran 800x600
     outils/prefixe.sh chauffer "$WINEPREFIX" "$racine/build/windows-x64/gardien.exe"
     export KORVANE_DEMONSTRATION="Z:${racine//\//\\}\\build\\demonstration" KORVANE_ECHECS="Z:${racine//\//\\}\\build\\echecs"
     lancer_wine 120 build/demonstration/journal.txt "$racine/build/windows-x64/demonstration.exe" || resultat=$?
-    for image in build/demonstration/*.bmp; do
-        [ -f "$image" ] || continue
-        convert "$image" "${image%.bmp}.png" && rm -f "$image"
-    done
+    en_png build/demonstration
     cat build/demonstration/compte-rendu.txt 2>/dev/null || true
     if [ "$resultat" != 0 ]; then
         grep -v '^wine: ' build/demonstration/journal.txt >&2 || true
@@ -94,12 +72,12 @@ demontrer() {
 
 if [ "$demonstration" = oui ]; then
     outils/installer.sh construire executer demonstration
-    construire KORVANE gardien demonstration
+    construire KORVANE PELMIRA aide gardien demonstration
     outils/prefixe.sh modele build/prefixe-modele
     demontrer
 else
     outils/installer.sh construire executer
-    construire KORVANE
+    construire KORVANE PELMIRA aide
     outils/prefixe.sh modele build/prefixe-modele
     ouvrir
 fi

@@ -2,7 +2,7 @@
 # Every check of the project, from a fresh machine; the last line counts: "N passed, N failed, N skipped".
 #
 #   ./test.sh                     everything
-#   ./test.sh --rapide            without analyses, fuzzing, resolutions and the drawn screen
+#   ./test.sh --rapide            without analyses, fuzzing, resolutions, the drawn screen and the package
 #   ./test.sh --fenetres FILTER   the window tests of a GoogleTest filter alone
 #
 # Reports and logs are left in build/resultats/, what was on the screen when a window test failed in build/echecs/.
@@ -10,6 +10,7 @@ set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit 1
 racine=$PWD
 source outils/wine.sh
+source outils/ecran.sh
 resultats=build/resultats
 programmes=$racine/build/windows-x64
 passes=0 echoues=0 laisses=0
@@ -30,8 +31,7 @@ nettoyer() {
     for prefixe in build/prefixes/*/; do
         [ -d "$prefixe" ] && WINEPREFIX=$racine/${prefixe%/} fermer_wine
     done
-    [ -n "${ecran:-}" ] && kill "$ecran" 2>/dev/null
-    return 0
+    eteindre_ecran
 }
 trap nettoyer EXIT
 trap 'exit 130' INT TERM
@@ -221,28 +221,6 @@ essais_windows() {
     grep -q 'tests="[1-9]' "$resultats"/fenetres-*.xml || rate "fenêtres : aucun essai"
 }
 
-# allumer_ecran WIDTHxHEIGHT : a screen of our own, on the first free number.
-allumer_ecran() {
-    local numero=$resultats/ecran
-    : >"$numero"
-    Xvfb -displayfd 3 -screen 0 "$1x24" -nolisten tcp 3>"$numero" </dev/null >/dev/null 2>&1 &
-    ecran=$!
-    for _ in $(seq 100); do
-        [ -s "$numero" ] && break
-        sleep 0.1
-    done
-    [ -s "$numero" ] || return 1
-    DISPLAY=:$(cat "$numero")
-    export DISPLAY
-}
-
-eteindre_ecran() {
-    kill "$ecran" 2>/dev/null
-    wait "$ecran" 2>/dev/null
-    ecran=
-    unset DISPLAY
-}
-
 # The layout must be right at every usual resolution; the screen is large enough for the window at 192.
 resolutions() {
     local ppp
@@ -269,11 +247,24 @@ ecran_dessine() {
     eteindre_ecran
 }
 
+# What users get: made, then tried where they would put it.
+paquet() {
+    local journal=$resultats/paquet.txt compte
+    dire "paquet et installateur"
+    { timeout -k 10 600 ./package.sh && timeout -k 20 400 outils/essai_paquet.sh; } </dev/null >"$journal" 2>&1
+    sed -n 's/^laissé : //p' "$journal" >>"$resultats/laisses.txt"
+    compte=$(sed -n 's/^\([0-9]*\) passed, \([0-9]*\) failed$/\1 \2/p' "$journal" | tail -1)
+    if [ -z "$compte" ]; then
+        rate paquet "$journal"
+    else
+        compter "${compte% *}" "${compte#* }" 0 paquet
+        [ "${compte#* }" = 0 ] || sed -n '/^échec/,$p' "$journal" | head -40
+    fi
+}
+
 finir() {
-    local image nombre
-    for image in build/echecs/*.bmp; do
-        [ -f "$image" ] && convert "$image" "${image%.bmp}.png" && rm -f "$image"
-    done
+    local nombre
+    en_png build/echecs
     sort -u "$resultats/laisses.txt" -o "$resultats/laisses.txt"
     nombre=$(wc -l <"$resultats/laisses.txt")
     if [ "$nombre" != 0 ]; then
@@ -288,7 +279,7 @@ rm -rf "$resultats" build/echecs build/prefixes
 mkdir -p "$resultats"
 : >"$resultats/laisses.txt"
 dire "paquets"
-outils/installer.sh construire executer essais || rate "installation des paquets"
+outils/installer.sh construire paquet executer essais || rate "installation des paquets"
 [ "$variante" = tout ] && analyses
 [ "$variante" != fenetres ] && logique_native
 if construire windows-x64; then
@@ -297,6 +288,7 @@ if construire windows-x64; then
         if [ "$variante" = tout ]; then
             resolutions
             ecran_dessine
+            paquet
         fi
     else
         rate "préfixe Wine"

@@ -42,6 +42,7 @@ endfunction()
 korvane_couche(services platform)
 korvane_couche(boite_a_outils toolkit)
 korvane_couche(gestionnaire app browser fileops recycle search config forms)
+korvane_couche(visionneuse visionneuse)
 
 get_target_property(genre services TYPE)
 if(genre STREQUAL "STATIC_LIBRARY")
@@ -56,8 +57,13 @@ if(genre STREQUAL "STATIC_LIBRARY")
     target_link_libraries(gestionnaire PUBLIC boite_a_outils PRIVATE sans_windows)
 endif()
 
-# The icon, drawn once and made into every size that the system asks for.
-function(korvane_icone cible)
+get_target_property(genre visionneuse TYPE)
+if(genre STREQUAL "STATIC_LIBRARY")
+    target_link_libraries(visionneuse PUBLIC boite_a_outils services PRIVATE sans_windows)
+endif()
+
+# The icon of a program, drawn once and made into every size that the system asks for.
+function(korvane_icone cible nom)
     find_program(KORVANE_RSVG rsvg-convert)
     find_program(KORVANE_ICOTOOL icotool)
     if(NOT KORVANE_RSVG OR NOT KORVANE_ICOTOOL)
@@ -65,12 +71,12 @@ function(korvane_icone cible)
                         "the program is built without its icon.")
         return()
     endif()
-    set(dessin "${CMAKE_SOURCE_DIR}/src/ressources/korvane.svg")
-    set(icone "${CMAKE_BINARY_DIR}/ressources/korvane.ico")
+    set(dessin "${CMAKE_SOURCE_DIR}/src/ressources/${nom}.svg")
+    set(icone "${CMAKE_BINARY_DIR}/ressources/${nom}.ico")
     set(commandes)
     set(images)
     foreach(cote IN ITEMS 16 24 32 48 64 256)
-        set(image "${CMAKE_BINARY_DIR}/ressources/korvane-${cote}.png")
+        set(image "${CMAKE_BINARY_DIR}/ressources/${nom}-${cote}.png")
         list(APPEND commandes COMMAND "${KORVANE_RSVG}" -w ${cote} -h ${cote} -o "${image}" "${dessin}")
         if(cote EQUAL 256)
             list(APPEND images -r)
@@ -80,28 +86,31 @@ function(korvane_icone cible)
     file(MAKE_DIRECTORY "${CMAKE_BINARY_DIR}/ressources")
     add_custom_command(OUTPUT "${icone}" ${commandes}
         COMMAND "${KORVANE_ICOTOOL}" -c -o "${icone}" ${images}
-        DEPENDS "${dessin}" COMMENT "Icon korvane.ico" VERBATIM)
+        DEPENDS "${dessin}" COMMENT "Icon ${nom}.ico" VERBATIM)
     target_compile_definitions(${cible} PRIVATE $<$<COMPILE_LANGUAGE:RC>:AVEC_ICONE>)
-    set_property(SOURCE "${CMAKE_SOURCE_DIR}/src/ressources/korvane.rc" APPEND PROPERTY OBJECT_DEPENDS "${icone}")
+    set_property(SOURCE "${CMAKE_SOURCE_DIR}/src/ressources/${nom}.rc" APPEND PROPERTY OBJECT_DEPENDS "${icone}")
 endfunction()
 
-if(EXISTS "${CMAKE_SOURCE_DIR}/src/korvane.cpp")
-    enable_language(RC)
-    set(ressources "${CMAKE_SOURCE_DIR}/src/ressources/korvane.rc")
-    add_executable(KORVANE WIN32 "${CMAKE_SOURCE_DIR}/src/korvane.cpp" "${ressources}")
+enable_language(RC)
+
+# A program: its entry point, its resources, all that it needs in one file.
+function(korvane_programme cible nom)
+    set(ressources "${CMAKE_SOURCE_DIR}/src/ressources/${nom}.rc")
+    add_executable(${cible} WIN32 "${CMAKE_SOURCE_DIR}/src/${nom}.cpp" "${ressources}")
     set_source_files_properties("${ressources}" PROPERTIES
         COMPILE_OPTIONS "-c;65001"
         INCLUDE_DIRECTORIES "${CMAKE_BINARY_DIR}/ressources;${CMAKE_SOURCE_DIR}/src/ressources"
-        OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/src/ressources/korvane.manifest")
-    set_target_properties(KORVANE PROPERTIES OUTPUT_NAME KORVANE SUFFIX ".EXE")
-    target_link_libraries(KORVANE PRIVATE gestionnaire boite_a_outils services)
-    target_link_options(KORVANE PRIVATE -s)
-    korvane_icone(KORVANE)
-    korvane_entree(KORVANE)
-else()
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src")
-    message(STATUS "No src/korvane.cpp: the program itself is not built.")
-endif()
+        OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/src/ressources/${nom}.manifest")
+    set_target_properties(${cible} PROPERTIES OUTPUT_NAME ${cible} SUFFIX ".EXE")
+    target_link_libraries(${cible} PRIVATE ${ARGN})
+    target_link_options(${cible} PRIVATE -s)
+    korvane_icone(${cible} ${nom})
+    korvane_entree(${cible})
+endfunction()
+
+korvane_programme(KORVANE korvane gestionnaire boite_a_outils services)
+# The viewer that comes with it.
+korvane_programme(PELMIRA pelmira visionneuse boite_a_outils services)
 
 # Every header compiles alone. Only those of the two system layers may reach <windows.h>.
 file(GLOB_RECURSE entetes CONFIGURE_DEPENDS RELATIVE "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}/src/*.h")

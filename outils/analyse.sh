@@ -60,21 +60,23 @@ couche() {
 }
 
 verifier_couches() {
-    local -a systeme toolkit platform forms autres logique
+    local -a systeme toolkit platform forms visionneuse autres logique
     local resultat=0
     mapfile -t toolkit < <(find src/toolkit -name '*.cpp' -o -path 'src/toolkit/*.h')
     mapfile -t platform < <(find src/platform -name '*.cpp' -o -path 'src/platform/*.h')
     mapfile -t forms < <(find src/forms -name '*.cpp' -o -path 'src/forms/*.h')
+    mapfile -t visionneuse < <(find src/visionneuse src/pelmira.cpp -name '*.cpp' -o -path 'src/visionneuse/*.h')
     mapfile -t autres < <(find src -name '*.cpp' -o -name '*.h' | grep -v -E '^src/(toolkit|platform)/')
     mapfile -t logique < <(grep -o -E 'src/[a-z_/]+\.cpp' cmake/logique.cmake)
     systeme=("${toolkit[@]}" "${platform[@]}")
-    local dossiers='(app|browser|fileops|recycle|search|config|forms)/'
+    local dossiers='(app|browser|fileops|recycle|search|config|forms|visionneuse)/'
     couche "windows\.h>" "${autres[@]}" || resultat=1
     couche "windows\.h>" $(printf '%s\n' "${systeme[@]}" | grep -v '^src/platform/windows.h$') || resultat=1
     couche "$dossiers" "${toolkit[@]}" || resultat=1
     couche "toolkit/|$dossiers" "${platform[@]}" || resultat=1
     couche "platform/windows|toolkit/" "${logique[@]}" || resultat=1
-    couche "(app|browser|fileops|recycle|search|config)/" "${forms[@]}" || resultat=1
+    couche "(app|browser|fileops|recycle|search|config|visionneuse)/" "${forms[@]}" || resultat=1
+    couche "(app|browser|fileops|recycle|search|config|forms)/" "${visionneuse[@]}" || resultat=1
     return $resultat
 }
 

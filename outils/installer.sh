@@ -2,6 +2,7 @@
 # installer.sh ROLE... : installs the Debian packages that a role needs and that are missing; fast when nothing is.
 #
 #   construire     the Windows compiler and the build tools
+#   paquet         what makes and opens the package
 #   executer       Wine and fonts
 #   demonstration  a screen of its own and what drives the program there
 #   essais         analyses, sanitizers, fuzzing, drives with faults, reading what was printed
@@ -10,7 +11,8 @@ set -euo pipefail
 paquets=()
 for role in "$@"; do
     case $role in
-        construire) paquets+=(g++-mingw-w64-x86-64 cmake ninja-build ccache librsvg2-bin icoutils) ;;
+        construire) paquets+=(g++-mingw-w64-x86-64 cmake ninja-build ccache librsvg2-bin icoutils halibut) ;;
+        paquet) paquets+=(nsis zip unzip) ;;
         executer) paquets+=(wine wine64 fonts-wine fonts-liberation) ;;
         demonstration) paquets+=(xvfb xauth imagemagick googletest) ;;
         essais)

@@ -6,9 +6,7 @@
 #include "app/globals.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/aide.h"
-#include "platform/fichiers.h"
 #include "platform/nombres.h"
-#include "platform/systeme.h"
 #include "platform/textes.h"
 #include "toolkit/boites.h"
 
@@ -27,13 +25,14 @@ void Activer_aide(bool active) {
     variables.Texte_aide = active ? texte_introduction : L"";
 }
 
-// The viewer is asked only for a file that is there: it would open a box of its own for a missing one.
 void Ouvrir_fichier_aide() {
     if (variables.Fichier_aide.empty()) return;
-    const std::wstring chemin = Repertoire_programme() + L"\\" + variables.Fichier_aide;
-    if (Fichier_existe(chemin) && Ouvrir_aide(chemin)) return;
-    Message_boite(L"Le fichier d'aide " + variables.Fichier_aide + L" est introuvable.",
-                  Boite::ok | Boite::information, titre_gestionnaire);
+    const Ouverture_aide resultat = Ouvrir_aide(variables.Fichier_aide);
+    if (resultat == Ouverture_aide::ouverte) return;
+    const wchar_t * suite = resultat == Ouverture_aide::absente ? L" est introuvable."
+                                                                : L" ne peut pas être ouvert sur ce système.";
+    Message_boite(L"Le fichier d'aide " + variables.Fichier_aide + suite, Boite::ok | Boite::information,
+                  titre_gestionnaire);
 }
 
 void Aide_Click() {

@@ -5,6 +5,7 @@
 #include "app/globals.h"
 #include "app/routines.h"
 #include "app/settings.h"
+#include "browser/boutons.h"
 #include "browser/panneaux.h"
 #include "forms/apropos.h"
 #include "forms/gestion_fichiers.h"
@@ -99,16 +100,6 @@ void Charger_selections(Gestion_Fichiers & f) {
     for (const std::wstring & cle : Cles_section(Section::selections)) {
         f.Sélection_fichiers.AddItem(cle);
         f.Liste_sel.AddItem(Valeur_cle(Section::selections, cle));
-    }
-}
-
-void Charger_boutons(Gestion_Fichiers & f) {
-    std::size_t suivant = 0;
-    for (const std::wstring & cle : Cles_section(Section::boutons)) {
-        if (suivant == f.Bouton.size()) return f.Bouton_suite.Visible(true);
-        f.Bouton[suivant].Caption(cle);
-        f.Bouton[suivant].Visible(true);
-        ++suivant;
     }
 }
 

@@ -17,12 +17,16 @@ struct Fenetres_programme {
     std::unique_ptr<Fenetre> infos;
     std::unique_ptr<Fenetre> cde_chercher;
     std::unique_ptr<Fenetre> cherche_fichier;
+    std::unique_ptr<Fenetre> options;
+    std::unique_ptr<Fenetre> config_korvane;
 
     void Fermer_filles() {
         corbeille.reset();
         infos.reset();
         cde_chercher.reset();
         cherche_fichier.reset();
+        options.reset();
+        config_korvane.reset();
     }
 };
 

@@ -2,11 +2,63 @@
 
 #include "app/fenetres.h"
 #include "app/globals.h"
+#include "fileops/lignes_commande.h"
 #include "forms/gestion_fichiers.h"
+#include "platform/chemins.h"
+#include "platform/erreur.h"
 #include "platform/programmes.h"
+#include "platform/systeme.h"
+#include "platform/textes.h"
+#include "toolkit/boites.h"
+
+#include <functional>
+
+namespace {
+constexpr std::size_t limite_usuelle = 260;  // most programs take no longer path
+
+void Refuser(const std::wstring & chemin) {
+    const std::wstring motif = Tient_en_ansi(chemin)
+                                   ? L"des '%' que l'interpréteur de commandes remplacerait"
+                                   : L"des caractères qui ne peuvent pas être transmis à un programme";
+    Bip();
+    Message_boite(L"Le chemin du fichier " + Majuscules(Nom_du_chemin(chemin)) + L" comporte " + motif +
+                      L" :\rrenommez celui-ci et relancez l'opération.",
+                  Boite::ok | Boite::exclamation, titre_gestionnaire);
+}
+
+// The first of a path and its short name that a line can carry; `ligne` puts it there.
+std::wstring Transmissible(const std::wstring &                                      chemin,
+                           const std::function<std::wstring(const std::wstring &)> & ligne) {
+    const auto convient = [&](const std::wstring & nom) {
+        return !nom.empty() && Tient_en_ansi(nom) && !Serait_developpe(ligne(nom));
+    };
+    const bool tel = convient(chemin);
+    if (tel && chemin.size() < limite_usuelle) return chemin;
+    const std::wstring court = Chemin_court(chemin);
+    if (convient(court)) return court;
+    if (tel) return chemin;
+    Refuser(chemin);
+    return {};
+}
+}  // namespace
 
 void Lancer(const std::wstring & ligne, const std::wstring & repertoire) {
-    const Repertoire_de_travail travail(repertoire.empty() ? Principale().Répertoire_srce.Path()
-                                                           : repertoire);
-    variables.Tache = Demarrer(ligne);
+    try {
+        const Repertoire_de_travail travail(repertoire.empty() ? Principale().Répertoire_srce.Path()
+                                                               : repertoire);
+        variables.Tache = Demarrer(Ligne_sure(ligne));
+    } catch (const Erreur_execution &) {
+        // What could not be started is the program, whatever file it was to be given.
+        variables.Fichier_courant = Nom_du_chemin(Programme_de_la_ligne(ligne));
+        throw;
+    }
+}
+
+std::wstring Chemin_pour(const std::wstring & programme, const std::wstring & chemin) {
+    const std::wstring cite = Citer_programme(programme, Programme_existe) + L" ";
+    return Transmissible(chemin, [&](const std::wstring & nom) { return cite + nom; });
+}
+
+std::wstring Chemin_a_lancer(const std::wstring & chemin) {
+    return Transmissible(chemin, [](const std::wstring & nom) { return Citer_fichier(nom); });
 }

@@ -9,9 +9,8 @@ void Afficher_espace_libre();
 // Shortens Texte_chemin until it fits in `largeur` twips of that window's font; whole leading directories go.
 void Raccourcir_chemin(const Fenetre & fenetre, double largeur);
 
-// Colours the frames and lines of the main window with an index of the 16-colour palette; 0 is the neutral
-// grey.
-void Appliquer_couleur(int index);
+// Colours the frames and lines of the main window: a setting of 0 to 7, the neutral grey for 0 and for any other.
+void Appliquer_couleur(int couleur);
 
 // True for "a:" and "b:", as the drive lists write them.
 bool Est_disquette(const std::wstring & unite);

@@ -8,6 +8,8 @@
 #include "platform/textes.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace {
 // Characters of a read buffer, terminator included. The yes/no, colour and limit buffers cut a longer value
@@ -25,6 +27,23 @@ std::wstring Lire(const wchar_t * section, const std::wstring & cle, const wchar
     variables.Longueur_lue = valeur.size();
     return valeur;
 }
+
+struct Option {
+    std::wstring_view cle;
+    const wchar_t *   defaut;
+    unsigned          tampon;
+};
+
+constexpr std::array<Option, 8> options{{
+    {Cle::editeur, Defaut::editeur, tampon_texte},
+    {Cle::visualiseur, Defaut::visualiseur, tampon_texte},
+    {Cle::confirme, L"Non", tampon_oui_non},
+    {Cle::remplace, L"Oui", tampon_oui_non},
+    {Cle::iconise, L"Non", tampon_oui_non},
+    {Cle::aide, L"Non", tampon_oui_non},
+    {Cle::repertoire, L"Racine", tampon_texte},
+    {Cle::couleur, L"0", tampon_couleur},
+}};
 
 // A limit of the recycle bin; its buffer holds no more digits than it may have. 0 for what is no whole number from 1 on.
 int Limite(const std::wstring & texte) {
@@ -44,9 +63,13 @@ void Situer_profil() {
     variables.Fichier_ini      = repertoire + L"\\KORVANE.INI";
 }
 
-void Lire_iconise() {
-    variables.Option_iconise = Lire(Section::options, Cle::iconise, L"Non", tampon_oui_non);
+std::wstring Lire_option(const wchar_t * cle) {
+    const auto option =
+        std::find_if(options.begin(), options.end(), [&](const Option & o) { return o.cle == cle; });
+    return Lire(Section::options, cle, option->defaut, option->tampon);
 }
+
+void Lire_iconise() { variables.Option_iconise = Lire_option(Cle::iconise); }
 
 bool Demarrage_iconise() { return Est_oui(variables.Option_iconise); }
 
@@ -57,12 +80,11 @@ void Lire_bordure() {
 }
 
 void Lire_options_commandes() {
-    variables.Editeur = Majuscules(Lire(Section::options, Cle::editeur, L"NOTEPAD.EXE", tampon_texte));
-    variables.Visualiseur =
-        Majuscules(Lire(Section::options, Cle::visualiseur, L"PELMIRA.EXE", tampon_texte));
-    variables.Confirme_commande     = Est_oui(Lire(Section::options, Cle::confirme, L"Non", tampon_oui_non));
-    variables.Confirme_remplacement = Est_oui(Lire(Section::options, Cle::remplace, L"Oui", tampon_oui_non));
-    variables.Option_aide           = Lire(Section::options, Cle::aide, L"Non", tampon_oui_non);
+    variables.Editeur               = Majuscules(Lire_option(Cle::editeur));
+    variables.Visualiseur           = Majuscules(Lire_option(Cle::visualiseur));
+    variables.Confirme_commande     = Est_oui(Lire_option(Cle::confirme));
+    variables.Confirme_remplacement = Est_oui(Lire_option(Cle::remplace));
+    variables.Option_aide           = Lire_option(Cle::aide);
 }
 
 void Lire_limites_corbeille() {
@@ -83,12 +105,9 @@ void Lire_limites_corbeille() {
     variables.Limite_corbeille_incorrecte = variables.Taille_corbeille == 0 && variables.Temps_corbeille == 0;
 }
 
-void Lire_couleur() { variables.Option_couleur = Lire(Section::options, Cle::couleur, L"0", tampon_couleur); }
+void Lire_couleur() { variables.Option_couleur = Lire_option(Cle::couleur); }
 
-void Lire_repertoire_initial() {
-    variables.Repertoire_initial =
-        Majuscules(Lire(Section::options, Cle::repertoire, L"Racine", tampon_texte));
-}
+void Lire_repertoire_initial() { variables.Repertoire_initial = Majuscules(Lire_option(Cle::repertoire)); }
 
 std::vector<std::wstring> Cles_section(const wchar_t * section) {
     const std::wstring liste = Lire_cles(variables.Fichier_ini, section);
@@ -97,5 +116,5 @@ std::vector<std::wstring> Cles_section(const wchar_t * section) {
 }
 
 std::wstring Valeur_cle(const wchar_t * section, const std::wstring & cle) {
-    return Lire(section, cle, L"", tampon_texte);
+    return Lire(section, cle, L"", tampon_valeur);
 }

@@ -29,6 +29,17 @@ inline constexpr const wchar_t * total       = L"Total";
 inline constexpr const wchar_t * bordure     = L"BorderWidth";  // of WIN.INI
 }  // namespace Cle
 
+namespace Defaut {
+inline constexpr const wchar_t * editeur     = L"NOTEPAD.EXE";
+inline constexpr const wchar_t * visualiseur = L"PELMIRA.EXE";
+}  // namespace Defaut
+
+// The value of a key of the options, cut to its buffer, or its default.
+std::wstring Lire_option(const wchar_t * cle);
+
+// Characters of the buffer for a line that the configuration editor writes, terminator included: what it saved is never cut.
+inline constexpr unsigned tampon_valeur = 65535;
+
 void Situer_profil();           // Fichier_ini, Prefixe_fichiers, Unite_programme
 void Lire_iconise();            // Option_iconise
 void Lire_bordure();            // Bordure

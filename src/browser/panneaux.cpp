@@ -192,6 +192,14 @@ void Croiser_Click() {
         });
 }
 
+// The list tells a double-click on its empty part too, and what is selected was not meant there.
+std::function<void()> Sur_un_fichier(const Liste & liste, void (*action)()) {
+    return [&liste, action] {
+        bool coupee = false;
+        if (liste.Entree_survolee(coupee) >= 0) action();
+    };
+}
+
 std::function<void(wchar_t &)> Sur_entree(void (*action)()) {
     return [action](wchar_t & caractere) {
         if (caractere == Touche::entree) action();
@@ -233,7 +241,7 @@ void Fichier_srce_PathChange() {
     f.Fichier_srce.ForeColor(couleur_texte_fenetre);
 }
 
-void Brancher_panneaux(Gestion_Fichiers & f) {
+void Brancher_panneaux(Gestion_Fichiers & f, void (*ouvrir)()) {
     f.Unité_srce.Change        = Unité_srce_Change;
     f.Unité_srce.KeyPress      = Unité_srce_KeyPress;
     f.Unité_dest.Change        = Unité_dest_Change;
@@ -244,11 +252,11 @@ void Brancher_panneaux(Gestion_Fichiers & f) {
     f.Répertoire_dest.Change   = Répertoire_dest_Change;
     f.Répertoire_dest.Click    = Répertoire_dest_Click;
     f.Répertoire_dest.KeyPress = Sur_entree(Répertoire_dest_Click);
-    f.Fichier_srce.DblClick    = Retrouver_fichier_choisi;
+    f.Fichier_srce.DblClick    = Sur_un_fichier(f.Fichier_srce, ouvrir);
     f.Fichier_srce.KeyPress    = Fichier_srce_KeyPress;
     f.Fichier_srce.MouseDown   = Fichier_srce_MouseDown;
     f.Fichier_srce.PathChange  = Fichier_srce_PathChange;
-    f.Fichier_sél.DblClick     = Retrouver_fichier_choisi;
+    f.Fichier_sél.DblClick     = Sur_un_fichier(f.Fichier_sél, ouvrir);
     f.Fichier_dest.Click       = Fichier_dest_Click;
     f.Croiser.Brancher(Croiser_Click);
 }

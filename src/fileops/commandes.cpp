@@ -25,6 +25,9 @@ void Brancher_commandes(Gestion_Fichiers & f) {
     f.Supprimer.Brancher(Supprimer_Click);
     f.Renommer.Brancher(Renommer_Click);
     f.Créer.Brancher(Créer_Click);
+    f.Editer.Brancher(Editer_Click);
+    f.Visualiser.Brancher(Visualiser_Click);
+    f.Exécuter.Brancher(Exécuter_Click);
     f.Imprimer.Brancher(Imprimer_Click);
     f.Répertoire_srce.KeyDown = Sur_suppr(Supprimer_Click);
     f.Fichier_srce.KeyDown    = Sur_suppr(Effacer_du_clavier);

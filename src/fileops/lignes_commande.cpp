@@ -7,14 +7,28 @@
 namespace {
 constexpr std::wstring_view                compagnon = L"PELMIRA.EXE";
 constexpr std::array<std::wstring_view, 4> programmes{L"EXE", L"COM", L"BAT", L"PIF"};
+constexpr std::array<std::wstring_view, 2> lots{L"BAT", L"CMD"};
 constexpr wchar_t                          guillemet         = L'"';
+constexpr wchar_t                          premier_imprime   = L' ';
 constexpr std::size_t                      max_extension     = 3;
 constexpr std::wstring_view                marque_parametres = L" ?";
+constexpr std::wstring_view                blancs            = L" \t";
+// Signs that end a command for the interpreter, and those that end a word or mean something in a batch file besides.
+constexpr std::wstring_view fins_de_commande = L"&|<>^";
+constexpr std::wstring_view signes           = L" &|<>^(),;=!\u00A0";
 
 std::wstring Entre_guillemets(std::wstring_view texte) { return guillemet + std::wstring(texte) + guillemet; }
 
 bool Contient(std::wstring_view texte, wchar_t caractere) {
     return texte.find(caractere) != std::wstring_view::npos;
+}
+
+bool Contient_un(std::wstring_view texte, std::wstring_view caracteres) {
+    return texte.find_first_of(caracteres) != std::wstring_view::npos;
+}
+
+template <std::size_t N> bool Parmi(const std::array<std::wstring_view, N> & liste, std::wstring_view texte) {
+    return std::find(liste.begin(), liste.end(), texte) != liste.end();
 }
 
 std::wstring_view Ebarber(std::wstring_view texte) {
@@ -33,27 +47,41 @@ std::wstring Capitales(std::wstring_view texte) {
     return resultat;
 }
 
-// Where a program's path ends: after its extension, at a blank or at the end. The whole text when no extension shows it.
-std::size_t Fin_programme(std::wstring_view texte) {
-    const std::wstring capitales = Capitales(texte);
-    for (std::size_t point = capitales.find(L'.'); point != std::wstring::npos;
-         point             = capitales.find(L'.', point + 1)) {
-        const std::wstring_view extension = std::wstring_view(capitales).substr(point + 1, max_extension);
-        const std::size_t       fin       = point + 1 + max_extension;
-        const bool              entiere   = fin == texte.size() || (fin < texte.size() && texte[fin] == L' ');
-        if (entiere && std::find(programmes.begin(), programmes.end(), extension) != programmes.end())
-            return fin;
+wchar_t En_blanc(wchar_t caractere) { return caractere < premier_imprime ? L' ' : caractere; }
+
+bool Commence_cite(std::wstring_view texte) { return !texte.empty() && texte.front() == guillemet; }
+
+// Where a program's path may end before `texte` does: behind its extension, at a blank. The last one first.
+std::vector<std::size_t> Fins_possibles(std::wstring_view texte) {
+    const std::wstring       capitales = Capitales(texte);
+    std::vector<std::size_t> fins;
+    for (std::size_t blanc = capitales.rfind(L' '); blanc != std::wstring::npos && blanc > max_extension;
+         blanc             = capitales.rfind(L' ', blanc - 1)) {
+        const std::size_t debut = blanc - max_extension;
+        if (capitales[debut - 1] != L'.') continue;
+        if (Parmi(programmes, std::wstring_view(capitales).substr(debut, max_extension)))
+            fins.push_back(blanc);
     }
-    return texte.size();
+    return fins;
+}
+
+// Where the path of a program or of a document ends in a text that parameters may follow. The longest that the disk knows: a
+// directory's name may look like a program ("C:\my.bat old\letter.txt").
+std::size_t Fin_programme(std::wstring_view texte, const Existe & existe) {
+    const std::vector<std::size_t> fins = Fins_possibles(texte);
+    if (fins.empty() || existe(texte)) return texte.size();
+    const auto trouve =
+        std::find_if(fins.begin(), fins.end(), [&](std::size_t fin) { return existe(texte.substr(0, fin)); });
+    return trouve == fins.end() ? texte.size() : *trouve;
 }
 
 // A line's program: up to the closing quote when it begins with one, else up to the first blank.
 std::size_t Longueur_premier_mot(std::wstring_view ligne) {
-    if (!ligne.empty() && ligne.front() == guillemet) {
+    if (Commence_cite(ligne)) {
         const std::size_t fin = ligne.find(guillemet, 1);
         return fin == std::wstring_view::npos ? ligne.size() : fin + 1;
     }
-    return std::min(ligne.find(L' '), ligne.size());
+    return std::min(ligne.find_first_of(blancs), ligne.size());
 }
 
 // The point of a button's value: the first one that does not stand in a directory's name.
@@ -66,95 +94,167 @@ std::size_t Point_extension(std::wstring_view valeur) {
     }
     return point;
 }
-}  // namespace
 
-bool Est_executable(std::wstring_view nom) {
-    const std::wstring extension = Extension_capitales(nom);
-    return std::find(programmes.begin(), programmes.end(), extension) != programmes.end();
+// The point of a file's name, the last one.
+std::size_t Point_du_nom(std::wstring_view chemin) {
+    const std::size_t point = chemin.rfind(L'.');
+    return Contient(chemin.substr(std::min(point, chemin.size())), L'\\') ? std::wstring_view::npos : point;
 }
 
+// The path at the beginning of a button's value, without quotes.
+std::wstring_view Chemin_vise(std::wstring_view cible, const Existe & existe) {
+    if (!Commence_cite(cible)) return cible.substr(0, Fin_programme(cible, existe));
+    const std::size_t fin = cible.find(guillemet, 1);
+    return cible.substr(1, fin == std::wstring_view::npos ? fin : fin - 1);
+}
+
+std::wstring Repertoire_vise(std::wstring_view chemin, std::size_t point) {
+    const std::size_t barre = chemin.rfind(L'\\', point);
+    if (barre == std::wstring_view::npos) return {};
+    // A drive's root keeps its "\": without it the name would be that of the drive's current directory.
+    const bool racine = barre == 0 || (barre == 2 && chemin[1] == L':');
+    return std::wstring(chemin.substr(0, racine ? barre + 1 : barre));
+}
+}  // namespace
+
+bool Est_executable(std::wstring_view nom) { return Parmi(programmes, Extension_capitales(nom)); }
+
 std::wstring Extension_capitales(std::wstring_view nom) {
-    const std::size_t barre = nom.rfind(L'\\');
-    const std::size_t point = nom.rfind(L'.');
-    if (point == std::wstring_view::npos) return {};
-    if (barre != std::wstring_view::npos && barre > point) return {};
-    return Capitales(nom.substr(point + 1));
+    const std::size_t point = Point_du_nom(nom);
+    return point == std::wstring_view::npos ? std::wstring() : Capitales(nom.substr(point + 1));
 }
 
 std::wstring Citer_fichier(std::wstring_view chemin) {
-    return Contient(chemin, L' ') ? Entre_guillemets(chemin) : std::wstring(chemin);
+    return Contient(chemin, L' ') && !Contient(chemin, guillemet) ? Entre_guillemets(chemin)
+                                                                  : std::wstring(chemin);
 }
 
-std::wstring Citer_programme(std::wstring_view programme) {
-    if (programme.empty() || programme.front() == guillemet) return std::wstring(programme);
-    const std::size_t fin = Fin_programme(programme);
+std::wstring Citer_programme(std::wstring_view programme, const Existe & existe) {
+    if (programme.empty() || Commence_cite(programme)) return std::wstring(programme);
+    const std::size_t fin = Fin_programme(programme, existe);
     return Citer_fichier(programme.substr(0, fin)) + std::wstring(programme.substr(fin));
 }
 
-std::wstring Citer_parametres(std::wstring_view parametres) {
-    return Contient(parametres, guillemet) ? std::wstring(parametres) : Citer_fichier(parametres);
+std::wstring Citer_parametres(std::wstring_view parametres) { return Citer_fichier(parametres); }
+
+std::wstring_view Programme_de_la_ligne(std::wstring_view ligne) {
+    ligne.remove_prefix(std::min(ligne.find_first_not_of(blancs), ligne.size()));
+    std::wstring_view programme = ligne.substr(0, Longueur_premier_mot(ligne));
+    if (!Commence_cite(programme)) return programme;
+    programme.remove_prefix(1);
+    return programme.substr(0, programme.find(guillemet));
+}
+
+bool Lance_interprete(std::wstring_view ligne) {
+    const std::wstring_view programme = Programme_de_la_ligne(ligne);
+    // The system drops what stands behind the name: "A.BAT. " is A.BAT.
+    const std::size_t fin = programme.find_last_not_of(L" .");
+    return fin != std::wstring_view::npos && Parmi(lots, Extension_capitales(programme.substr(0, fin + 1)));
+}
+
+std::wstring Citer_argument(std::wstring_view programme, std::wstring_view chemin) {
+    const bool cite =
+        Lance_interprete(programme) && Contient_un(chemin, signes) && !Contient(chemin, guillemet);
+    return cite ? Entre_guillemets(chemin) : Citer_fichier(chemin);
+}
+
+bool Serait_developpe(std::wstring_view ligne) {
+    // A variable stands between two of them.
+    return Lance_interprete(ligne) && std::count(ligne.begin(), ligne.end(), L'%') > 1;
+}
+
+std::wstring Proteger_interprete(std::wstring_view ligne) {
+    const std::size_t fin = Longueur_premier_mot(ligne);
+    // The system looks for the program before the interpreter reads the line: in its name nothing can be escaped.
+    const std::wstring_view programme = ligne.substr(0, fin);
+    std::wstring            protegee(programme);
+    if (!Commence_cite(programme) && Contient_un(programme, signes)) protegee = Entre_guillemets(programme);
+    // A switch that is attached to a name in quotes is part of the name for some interpreters.
+    if (Commence_cite(programme) && fin < ligne.size() && !Contient(blancs, ligne[fin])) protegee += L' ';
+    bool cite = false;
+    for (const wchar_t caractere : ligne.substr(fin)) {
+        if (caractere == guillemet) cite = !cite;
+        if (!cite && Contient(fins_de_commande, caractere)) protegee += L'^';
+        protegee += En_blanc(caractere);
+    }
+    return protegee;
+}
+
+std::wstring Ligne_sure(std::wstring_view ligne) {
+    return Lance_interprete(ligne) ? Proteger_interprete(ligne) : std::wstring(ligne);
 }
 
 std::optional<std::wstring> Groupe_fichiers::Ajouter(std::wstring_view chemin) {
-    const std::wstring          argument = Citer_fichier(chemin);
+    const std::wstring          argument = Citer_argument(programme_, chemin);
     std::optional<std::wstring> pleine;
     if (!liste_.empty() && liste_.size() + argument.size() >= limite) pleine = std::exchange(liste_, {});
     liste_ += L" " + argument;
     return pleine;
 }
 
-std::wstring Ligne_visualiseur(std::wstring_view visualiseur, std::wstring_view liste) {
-    return Citer_programme(visualiseur) + (visualiseur == compagnon ? L" ovl" : L" ") + std::wstring(liste);
+std::wstring Ligne_visualiseur(std::wstring_view visualiseur, std::wstring_view liste,
+                               const Existe & existe) {
+    return Citer_programme(visualiseur, existe) + (visualiseur == compagnon ? L" ovl" : L" ") +
+           std::wstring(liste);
 }
 
 bool Editeur_groupe(std::wstring_view editeur) { return editeur == compagnon; }
 
-std::wstring Ligne_editeur(std::wstring_view editeur, std::wstring_view liste_ou_fichier) {
-    const std::wstring programme = Citer_programme(editeur);
+std::wstring Ligne_editeur(std::wstring_view editeur, std::wstring_view liste_ou_fichier,
+                           const Existe & existe) {
+    const std::wstring programme = Citer_programme(editeur, existe);
     if (Editeur_groupe(editeur)) return programme + std::wstring(liste_ou_fichier);
-    return programme + L" " + Citer_fichier(liste_ou_fichier);
+    return programme + L" " + Citer_argument(programme, liste_ou_fichier);
 }
 
-std::wstring Ligne_execution(std::wstring_view chemin, std::wstring_view parametres) {
-    const bool separes = Contient(parametres, L' ') || Contient(parametres, guillemet);
-    return Citer_fichier(chemin) + (separes ? L" " : L"") + Citer_parametres(parametres);
+std::wstring Ligne_execution(std::wstring_view chemin, std::wstring_view saisie) {
+    std::wstring typees(saisie);
+    std::transform(typees.begin(), typees.end(), typees.begin(), En_blanc);
+    const std::wstring_view parametres = Ebarber(typees);
+    if (parametres.empty()) return Citer_fichier(chemin);
+    if (Contient(parametres, L' ') || Contient(parametres, guillemet))
+        return Citer_fichier(chemin) + L" " + Citer_parametres(parametres);
+    return Entre_guillemets(chemin) + std::wstring(parametres);
 }
 
 std::wstring Programme_associe(std::wstring_view valeur) {
     return std::wstring(Ebarber(valeur.substr(0, std::min(valeur.find(L" ^"), valeur.size()))));
 }
 
-std::wstring Ligne_association(std::wstring_view programme, std::wstring_view fichier) {
-    return Citer_programme(programme) + L" " + Citer_fichier(fichier);
+std::wstring Ligne_association(std::wstring_view programme, std::wstring_view fichier,
+                               const Existe & existe) {
+    const std::wstring cite = Citer_programme(programme, existe);
+    return cite + L" " + Citer_argument(cite, fichier);
 }
 
-Commande_bouton Lire_bouton(std::wstring_view valeur) {
+Commande_bouton Lire_bouton(std::wstring_view valeur, const Existe & existe) {
     Commande_bouton commande;
     commande.parametres = valeur.find(marque_parametres) != std::wstring_view::npos;
     if (commande.parametres) valeur.remove_suffix(marque_parametres.size());
-    commande.cible          = Ebarber(valeur);
-    const std::size_t point = Point_extension(commande.cible);
-    const std::size_t barre = commande.cible.rfind(L'\\', point);
-    if (barre != std::wstring::npos) commande.repertoire = commande.cible.substr(0, barre);
-    if (!commande.repertoire.empty() && commande.repertoire.front() == guillemet)
-        commande.repertoire.erase(0, 1);
-    // A drive's root keeps its "\": without it the name would be that of the drive's current directory.
-    if (commande.repertoire.size() == 2 && commande.repertoire[1] == L':') commande.repertoire += L'\\';
-    if (point != std::wstring::npos)
-        commande.extension = Capitales(commande.cible.substr(point + 1, max_extension));
+    const std::wstring_view cible  = Ebarber(valeur);
+    const std::wstring_view chemin = Chemin_vise(cible, existe);
+    const bool              seul   = chemin.size() + 2 >= cible.size();
+    commande.cible                 = Commence_cite(cible) && seul ? chemin : cible;
+    const bool        connu        = !chemin.empty() && existe(chemin);
+    const std::size_t point        = connu ? Point_du_nom(chemin) : Point_extension(chemin);
+    commande.repertoire            = Repertoire_vise(chemin, point);
+    if (point != std::wstring_view::npos)
+        commande.extension = Capitales(chemin.substr(point + 1, max_extension));
     return commande;
 }
 
 std::wstring Commande_saisie(std::wstring_view texte) {
     const std::size_t invite = texte.find(L'>');
-    return invite == std::wstring_view::npos ? std::wstring()
-                                             : std::wstring(Ebarber(texte.substr(invite + 1)));
+    if (invite == std::wstring_view::npos) return {};
+    std::wstring commande(texte.substr(invite + 1));
+    std::transform(commande.begin(), commande.end(), commande.begin(), En_blanc);
+    return std::wstring(Ebarber(commande));
 }
 
 std::wstring Ligne_saisie(std::wstring_view commande) {
     const std::size_t fin = Longueur_premier_mot(commande);
-    if (fin == commande.size()) return std::wstring(commande);
-    const std::wstring_view arguments = commande.substr(fin + 1);
+    if (fin == commande.size() || !Contient(commande, L' ')) return std::wstring(commande);
+    const std::wstring_view arguments = commande.substr(fin + (commande[fin] == L' ' ? 1 : 0));
     const bool              tels      = Contient(arguments, guillemet);
     return std::wstring(commande.substr(0, fin)) + L" " +
            (tels ? std::wstring(arguments) : Entre_guillemets(arguments));
@@ -164,15 +264,4 @@ std::wstring Avec_com(std::wstring_view ligne) {
     std::size_t fin = Longueur_premier_mot(ligne);
     if (fin > 1 && ligne[fin - 1] == guillemet) --fin;
     return std::wstring(ligne.substr(0, fin)) + L".COM" + std::wstring(ligne.substr(fin));
-}
-
-std::wstring Proteger_interprete(std::wstring_view ligne) {
-    std::wstring protegee;
-    bool         cite = false;
-    for (const wchar_t caractere : ligne) {
-        if (caractere == guillemet) cite = !cite;
-        if (!cite && std::wstring_view(L"&|<>^").find(caractere) != std::wstring_view::npos) protegee += L'^';
-        protegee += caractere;
-    }
-    return protegee;
 }

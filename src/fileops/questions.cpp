@@ -69,6 +69,12 @@ std::wstring Question_nouveau_nom_repertoire(const std::wstring & chemin_capital
     return L"Entrez le nouveau nom du répertoire :\r" + chemin_capitales;
 }
 
+std::wstring Question_parametres(const std::wstring & fichier_capitales,
+                                 const std::wstring & repertoire_capitales) {
+    return L"Entrez le(s) paramètre(s) (si nécessaire) pour " + fichier_capitales +
+           L"\r\rRépertoire actuel :\r" + repertoire_capitales;
+}
+
 std::wstring Libelle_en_cours(const std::wstring & commande, const std::wstring & fichier_capitales) {
     // Without its last letter the infinitive reads as the present: COPIER, COPIE.
     const std::wstring verbe = commande.substr(0, commande.empty() ? 0 : commande.size() - 1);

@@ -21,6 +21,8 @@ std::wstring Question_repertoire(const std::wstring & commande, const std::wstri
 std::wstring Refus_sous_repertoires(int nombre);
 std::wstring Question_nom_cree(const std::wstring & chemin_capitales);
 std::wstring Question_nouveau_nom_fichier(const std::wstring & fichier_capitales);
+std::wstring Question_parametres(const std::wstring & fichier_capitales,
+                                 const std::wstring & repertoire_capitales);
 std::wstring Question_nouveau_nom_repertoire(const std::wstring & chemin_capitales);
 std::wstring Libelle_en_cours(const std::wstring & commande, const std::wstring & fichier_capitales);
 

@@ -2,14 +2,19 @@
 
 #include "platform/erreur.h"
 #include "platform/fichiers.h"
+#include "platform/poignee.h"
 #include "platform/textes.h"
-#include "platform/windows.h"
+#include "platform/transfert.h"
+#include "platform/valeur_profil.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr std::size_t plus_longue_liste = std::size_t{16} << 20;
+constexpr std::size_t     plus_longue_liste = std::size_t{16} << 20;
+constexpr const char *    win_ini           = "WIN.INI";
+constexpr const wchar_t * suffixe_copie     = L".krv~";
+constexpr std::uint64_t   marge_disque      = 8192;  // bytes left free when a file is written again
 
 std::wstring Forme_courte(const std::wstring & chemin) {
     std::wstring court(32768, L'\0');
@@ -21,7 +26,7 @@ std::wstring Forme_courte(const std::wstring & chemin) {
 // The name under which the 8-bit functions reach the file. A directory whose name the code page cannot hold is
 // reached by its short name, where the disk keeps one; otherwise there is no name and the file is out of reach.
 std::optional<std::string> Nom_de_fichier(const std::wstring & fichier) {
-    if (fichier.empty()) return "WIN.INI";
+    if (fichier.empty()) return win_ini;
     if (fichier.size() < MAX_PATH && Tient_en_ansi(fichier)) return En_ansi(fichier);
     std::wstring court = Forme_courte(fichier);
     if (const std::size_t barre = fichier.rfind(L'\\'); court.empty() && barre != std::wstring::npos) {
@@ -37,7 +42,7 @@ std::string Lire(const std::string & fichier, const std::string & section, const
                  const std::string & defaut, std::size_t tampon) {
     std::string octets(std::max<std::size_t>(tampon, 1), '\0');
     const auto  taille = static_cast<DWORD>(octets.size());
-    const DWORD lus    = fichier == "WIN.INI"
+    const DWORD lus    = fichier == win_ini
                              ? GetProfileStringA(section.c_str(), cle, defaut.c_str(), octets.data(), taille)
                              : GetPrivateProfileStringA(section.c_str(), cle, defaut.c_str(), octets.data(),
                                                         taille, fichier.c_str());
@@ -46,7 +51,144 @@ std::string Lire(const std::string & fichier, const std::string & section, const
 }
 
 [[noreturn]] void Refuser(DWORD code, const std::wstring & fichier) {
-    throw Erreur_execution(Numero::acces_fichier, code, fichier);
+    const bool plein = code == ERROR_DISK_FULL || code == ERROR_HANDLE_DISK_FULL;
+    throw Erreur_execution(plein ? Numero::disque_plein : Numero::acces_fichier, code, fichier);
+}
+
+// The value of a key, none when the key is absent: two defaults then give two answers.
+std::optional<std::wstring> Valeur_presente(const std::string & nom, const std::string & section,
+                                            const std::string & cle) {
+    constexpr std::size_t tampon = 65536;
+    std::string           valeur = Lire(nom, section, cle.c_str(), "", tampon);
+    if (valeur.empty() && !Lire(nom, section, cle.c_str(), "absente", tampon).empty()) return std::nullopt;
+    return De_ansi(valeur);
+}
+
+// Some systems keep what was written in memory, and answer reads from there.
+void Vider_memoire(const std::string & nom) {
+    if (nom == win_ini)
+        WriteProfileStringA(nullptr, nullptr, nullptr);
+    else
+        WritePrivateProfileStringA(nullptr, nullptr, nullptr, nom.c_str());
+}
+
+// No value removes the key.
+void Poser(const std::string & nom, const std::string & section, const std::string & cle, const char * valeur,
+           const std::wstring & fichier) {
+    const BOOL ecrit = nom == win_ini
+                           ? WriteProfileStringA(section.c_str(), cle.c_str(), valeur)
+                           : WritePrivateProfileStringA(section.c_str(), cle.c_str(), valeur, nom.c_str());
+    if (!ecrit) Refuser(GetLastError(), fichier);
+    Vider_memoire(nom);
+}
+
+// Writes and looks at what is there: not every failure is reported. Where the system keeps WIN.INI elsewhere than in a file, it
+// takes nothing off a value, and what would protect it stays in it.
+void Ecrire(const std::string & nom, const std::string & section, const Changement_profil & changement,
+            const std::wstring & fichier) {
+    const std::string cle = En_ansi(changement.cle);
+    if (!changement.valeur) {
+        // Some systems refuse to remove a key that is not there.
+        if (Valeur_presente(nom, section, cle)) Poser(nom, section, cle, nullptr, fichier);
+        return;
+    }
+    const std::string valeur   = En_ansi(*changement.valeur);
+    const std::string formes[] = {En_ansi(Valeur_protegee(*changement.valeur)), valeur};
+    for (const std::string & forme : formes) {
+        Poser(nom, section, cle, forme.c_str(), fichier);
+        if (Lire(nom, section, cle.c_str(), "", forme.size() + 2) == valeur) return;
+    }
+    // Nor does it keep outer blanks there, which nothing can then protect.
+    const std::wstring lue = De_ansi(Lire(nom, section, cle.c_str(), "", valeur.size() + 2));
+    if (nom == win_ini && lue == Sans_blancs(*changement.valeur)) return;
+    Refuser(ERROR_WRITE_FAULT, fichier);
+}
+
+void Changer_sur_place(const std::string & nom, const std::string & section,
+                       const std::vector<Changement_profil> & changements, const std::wstring & fichier) {
+    std::vector<Changement_profil> avant;
+    try {
+        for (const Changement_profil & changement : changements) {
+            avant.push_back({changement.cle, Valeur_presente(nom, section, En_ansi(changement.cle))});
+            Ecrire(nom, section, changement, fichier);
+        }
+    } catch (...) {
+        std::for_each(avant.rbegin(), avant.rend(), [&](const Changement_profil & etat) {
+            Tenter([&] { Ecrire(nom, section, etat, fichier); });
+        });
+        throw;
+    }
+}
+
+// The file that will take the place of the one to change; gone when it could not.
+class Copie_profil {
+public:
+    explicit Copie_profil(const std::wstring & fichier) : chemin_(fichier + suffixe_copie) {
+        DeleteFileW(chemin_.c_str());  // left by a power cut
+        Transfert transfert(fichier);
+        transfert.Creer_cible(chemin_);
+        while (transfert.Bloc()) {
+        }
+        transfert.Terminer(false);
+    }
+    ~Copie_profil() { DeleteFileW(chemin_.c_str()); }
+    Copie_profil(const Copie_profil &)             = delete;
+    Copie_profil & operator=(const Copie_profil &) = delete;
+
+    const std::wstring & Chemin() const { return chemin_; }
+    void                 Fixer() const {  // on the disk, before it takes a name that counts
+        const Poignee_fichier fichier(
+                            CreateFileW(chemin_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        if (!fichier.Valide() || !FlushFileBuffers(fichier.Valeur())) Refuser(GetLastError(), chemin_);
+    }
+
+private:
+    std::wstring chemin_;
+};
+
+// The system writes the whole file again, and not every system tells when the disk was full before the end.
+void Exiger_place(const std::wstring & fichier, const std::vector<Changement_profil> & changements) {
+    std::uint64_t taille = Longueur_fichier(fichier) + marge_disque;
+    for (const Changement_profil & c : changements)
+        taille += c.cle.size() + (c.valeur ? c.valeur->size() : 0);
+    const std::wstring repertoire = fichier.substr(0, fichier.rfind(L'\\') + 1);
+    ULARGE_INTEGER     libre{};
+    if (GetDiskFreeSpaceExW(repertoire.c_str(), &libre, nullptr, nullptr) && libre.QuadPart < taille)
+        Refuser(ERROR_DISK_FULL, fichier);
+}
+
+// False when no copy can be made beside the file, or take its place: another program has it open, the directory takes no file.
+bool Changer_par_copie(const std::wstring & fichier, const std::string & section,
+                       const std::vector<Changement_profil> & changements) {
+    std::optional<Copie_profil> copie;
+    try {
+        copie.emplace(fichier);
+    } catch (const Erreur_execution & erreur) {
+        if (erreur.numero == Numero::disque_plein) throw;
+        return false;
+    }
+    const auto nom = Nom_de_fichier(copie->Chemin());
+    if (!nom) return false;
+    Exiger_place(fichier, changements);
+    for (const Changement_profil & changement : changements) Ecrire(*nom, section, changement, fichier);
+    copie->Fixer();
+    return Tenter([&] { Remplacer_fichier(copie->Chemin(), fichier); });
+}
+
+// A link would become a file of its own; one that is not there yet has nothing to lose.
+bool Copiable(const std::string & nom) {
+    const DWORD attributs = GetFileAttributesA(nom.c_str());
+    return nom != win_ini && attributs != INVALID_FILE_ATTRIBUTES &&
+           (attributs & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
+}
+
+void Exiger_possibles(const std::vector<Changement_profil> & changements, const std::wstring & fichier) {
+    for (const Changement_profil & c : changements) {
+        if (!Tient_en_ansi(c.cle) || (c.valeur && !Tient_en_ansi(*c.valeur)))
+            Refuser(ERROR_NO_UNICODE_TRANSLATION, fichier);
+        if (std::max(c.cle.size(), c.valeur ? c.valeur->size() : 0) > plus_longue_valeur)
+            throw Erreur_execution(Numero::depassement, ERROR_BUFFER_OVERFLOW, fichier);
+    }
 }
 
 }  // namespace
@@ -74,17 +216,31 @@ std::wstring Lire_cles(const std::wstring & fichier, const wchar_t * section) {
     return De_ansi(liste);
 }
 
-void Ecrire_profil(const std::wstring & fichier, const wchar_t * section, const std::wstring & cle,
-                   const std::optional<std::wstring> & valeur) {
+void Exiger_lisible(const std::wstring & fichier) {
     const auto nom = Nom_de_fichier(fichier);
-    if (!nom || !Tient_en_ansi(cle) || (valeur && !Tient_en_ansi(*valeur)))
-        Refuser(ERROR_NO_UNICODE_TRANSLATION, fichier);
+    if (!nom || *nom == win_ini) return;
+    const Poignee_fichier ouvert(CreateFileA(nom->c_str(), GENERIC_READ,
+                                             FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                             OPEN_EXISTING, 0, nullptr));
+    if (ouvert.Valide()) return;
+    const DWORD code = GetLastError();
+    if (code != ERROR_FILE_NOT_FOUND && code != ERROR_PATH_NOT_FOUND) Lever_code(code, Acte::ouvrir, fichier);
+}
+
+void Changer_profil(const std::wstring & fichier, const wchar_t * section,
+                    const std::vector<Changement_profil> & changements) {
+    const auto nom = Nom_de_fichier(fichier);
+    if (!nom) Refuser(ERROR_NO_UNICODE_TRANSLATION, fichier);
+    Exiger_possibles(changements, fichier);
     // A file that cannot be written is not always reported by the call: its attribute is looked at first.
-    const DWORD attributs = GetFileAttributesA(nom->c_str());
+    const DWORD attributs = *nom == win_ini ? 0 : GetFileAttributesA(nom->c_str());
     if (attributs != INVALID_FILE_ATTRIBUTES && (attributs & FILE_ATTRIBUTE_READONLY) != 0)
         Refuser(ERROR_ACCESS_DENIED, fichier);
-    const std::string octets = valeur ? En_ansi(*valeur) : std::string();
-    if (!WritePrivateProfileStringA(En_ansi(section).c_str(), En_ansi(cle).c_str(),
-                                    valeur ? octets.c_str() : nullptr, nom->c_str()))
-        Refuser(GetLastError(), fichier);
+    if (Copiable(*nom) && Changer_par_copie(fichier, En_ansi(section), changements)) return;
+    Changer_sur_place(*nom, En_ansi(section), changements, fichier);
+}
+
+void Ecrire_profil(const std::wstring & fichier, const wchar_t * section, const std::wstring & cle,
+                   const std::optional<std::wstring> & valeur) {
+    Changer_profil(fichier, section, {{cle, valeur}});
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include <string>
+#include <string_view>
 
 // Starting other programs. Services raise Erreur_execution.
 
@@ -12,6 +13,11 @@ unsigned Demarrer(const std::wstring & ligne);
 // A path as a command line can carry it: itself, or the disk's short name for it when the code page cannot hold it. Error 64 when
 // the disk keeps no short name.
 std::wstring Chemin_transmissible(const std::wstring & chemin);
+// The disk's short name for an existing path, absolute or relative as the path is; empty when there is none.
+std::wstring Chemin_court(const std::wstring & chemin);
+
+// Whether a start finds a file under that text: a path, or a name that is looked for where programs are. Nothing is raised.
+bool Programme_existe(std::wstring_view programme);
 
 // A directory that is the current one while this lives; the former one comes back. An empty path changes nothing. Errors of
 // Changer_repertoire: 76, 68, 71, 70.

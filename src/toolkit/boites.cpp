@@ -1,5 +1,7 @@
 #include "toolkit/boites.h"
 
+#include "platform/erreur.h"
+#include "platform/fichiers.h"
 #include "platform/windows.h"
 #include "toolkit/application.h"
 #include "toolkit/controles.h"
@@ -7,6 +9,7 @@
 #include "toolkit/interne.h"
 
 #include <algorithm>
+#include <cderr.h>
 #include <commdlg.h>
 
 namespace {
@@ -38,11 +41,41 @@ struct Saisie : Fenetre {
     std::wstring    reponse;
 };
 
+// The system takes a blank before a pattern for a part of it.
 std::wstring Filtre_systeme(std::wstring filtre) {
+    for (std::size_t blanc = filtre.find(L"; "); blanc != filtre.npos; blanc = filtre.find(L"; ", blanc))
+        filtre.erase(blanc + 1, 1);
     std::replace(filtre.begin(), filtre.end(), L'|', L'\0');
     filtre.push_back(L'\0');
     return filtre;
 }
+
+// Cancelled, a dialog leaves no error; otherwise it could not be shown, or the choice does not fit.
+void Signaler_echec_dialogue() {
+    switch (CommDlgExtendedError()) {
+    case 0: return;
+    case FNERR_BUFFERTOOSMALL: throw Erreur_execution(Numero::nom_incorrect, ERROR_FILENAME_EXCED_RANGE, {});
+    case CDERR_MEMALLOCFAILURE:
+    case CDERR_MEMLOCKFAILURE: throw Erreur_execution(Numero::memoire, 0, {});
+    default: throw Erreur_execution(Numero::entree_sortie, 0, {});
+    }
+}
+
+// The current directory is the SOURCE directory: browsing must not move it, and not every system's dialog puts it back.
+class Repertoire_garde {
+public:
+    Repertoire_garde() : avant_(Repertoire_courant()) {}
+    ~Repertoire_garde() {
+        Tenter([this] {
+            if (Repertoire_courant() != avant_) Changer_repertoire(avant_);
+        });
+    }
+    Repertoire_garde(const Repertoire_garde &)             = delete;
+    Repertoire_garde & operator=(const Repertoire_garde &) = delete;
+
+private:
+    std::wstring avant_;
+};
 }  // namespace
 
 int Message_boite(const std::wstring & texte, unsigned style, const std::wstring & titre) {
@@ -77,9 +110,12 @@ std::wstring Choisir_fichier(const std::wstring & titre, const std::wstring & fi
     demande.lpstrFile   = chemin.data();
     demande.nMaxFile    = static_cast<DWORD>(chemin.size());
     demande.lpstrTitle  = titre.c_str();
-    // The current directory is the SOURCE directory: browsing must not move it.
-    demande.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
-    if (GetOpenFileNameW(&demande) == FALSE) return {};
+    demande.Flags       = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+    const Repertoire_garde repertoire;
+    if (GetOpenFileNameW(&demande) == FALSE) {
+        Signaler_echec_dialogue();
+        return {};
+    }
     chemin.resize(chemin.find(L'\0'));
     return chemin;
 }

@@ -30,4 +30,5 @@ std::wstring Demander_texte(const std::wstring & invite, const std::wstring & ti
                             const std::wstring & defaut);
 
 // The system's file-open dialog; `filtre` reads "description|patterns|description|patterns". Empty when cancelled.
+// The current directory stays. Errors: 64 when the chosen path is too long, 7, 57 when the dialog cannot be shown.
 std::wstring Choisir_fichier(const std::wstring & titre, const std::wstring & filtre);

@@ -151,6 +151,14 @@ std::intptr_t __stdcall Controle::Procedure(Poignee_fenetre poignee, unsigned me
         ->Recevoir(message, mot, large);
 }
 
+void Controle::Quitter_focus(Poignee_fenetre vers) {
+    if (!LostFocus) return;
+    // A combo box passes the focus on to the edit inside it.
+    if (vers == poignee_ || IsChild(poignee_, vers) != FALSE) return;
+    // A box, or another program, takes the focus for a while: it is not another control's.
+    if (GetAncestor(vers, GA_ROOT) == fenetre_.Poignee()) LostFocus();
+}
+
 std::intptr_t Controle::Recevoir(unsigned message, std::uintptr_t mot, std::intptr_t large) {
     switch (message) {
     case WM_SETCURSOR:
@@ -179,10 +187,7 @@ std::intptr_t Controle::Recevoir(unsigned message, std::uintptr_t mot, std::intp
         // A handler may pass the focus on: the control must not show a caret that it has lost already.
         if (!A_le_focus()) return 0;
         break;
-    case WM_KILLFOCUS:
-        // A box, or another program, takes the focus for a while: it is not another control's.
-        if (LostFocus && GetAncestor(reinterpret_cast<HWND>(mot), GA_ROOT) == fenetre_.Poignee()) LostFocus();
-        break;
+    case WM_KILLFOCUS: Quitter_focus(reinterpret_cast<HWND>(mot)); break;
     default: break;
     }
     std::intptr_t resultat = 0;

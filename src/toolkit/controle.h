@@ -20,6 +20,8 @@ inline constexpr int retour_arriere = 8;
 inline constexpr int entree         = 13;
 inline constexpr int echap          = 27;
 inline constexpr int fin            = 35;
+inline constexpr int haut           = 38;
+inline constexpr int bas            = 40;
 inline constexpr int suppr          = 46;
 inline constexpr int f1             = 112;
 }  // namespace Touche
@@ -82,7 +84,7 @@ protected:
     friend class Fenetre;
     friend class Saisie_clavier;
 
-    // A notification of the control to its window (WM_COMMAND code, WM_HSCROLL code).
+    // A notification of the control to its window: the code of WM_COMMAND, or code and position of WM_HSCROLL.
     virtual void Notification(unsigned code) { (void)code; }
     // A message of the control before its own treatment; true with `resultat` set when it is finished.
     virtual bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large, std::intptr_t & resultat);
@@ -101,7 +103,8 @@ protected:
     }
     // The focus again after a box or another window: what was marked in the control stays as it was.
     virtual void Reprendre_focus();
-    void         Focus_pris();  // this is the control that has the focus in its window from now on
+    void Quitter_focus(Poignee_fenetre vers);  // raises LostFocus when the focus goes to another control
+    void Focus_pris();          // this is the control that has the focus in its window from now on
     virtual void Refermer() {}  // an open drop-down list closes, nothing chosen
     virtual bool Deroule() const { return false; }  // a drop-down list is open: Enter and Escape are its own
     virtual bool Veut_fleches() const { return false; }  // arrows walk through a group of options

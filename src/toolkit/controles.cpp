@@ -43,9 +43,23 @@ void Etiquette::Notification(unsigned code) {
 
 // --- push button
 
+namespace {
+constexpr int marge_bouton = 45;  // twips between the frame and the text
+}  // namespace
+
 Bouton_commande::Bouton_commande(Fenetre & fenetre, const Place & place)
     : Controle(fenetre, place, {WC_BUTTONW, BS_PUSHBUTTON | BS_NOTIFY, 0, true}) {
     Controle::Enabled(false);
+}
+
+void Bouton_commande::Caption(const std::wstring & texte) {
+    std::wstring montre = texte;
+    std::erase(montre, L'&');
+    const bool     trop_long = Parent().Largeur_texte(montre) > Width() - 2 * marge_bouton;
+    const LONG_PTR style     = GetWindowLongPtrW(Poignee(), GWL_STYLE);
+    const LONG_PTR a_gauche  = BS_LEFT;
+    SetWindowLongPtrW(Poignee(), GWL_STYLE, trop_long ? style | a_gauche : style & ~a_gauche);
+    Texte_fenetre(texte);
 }
 
 void Bouton_commande::Enabled(bool actif) {
@@ -138,12 +152,27 @@ Bouton_option::Bouton_option(Fenetre & fenetre, const Place & place, bool premie
 
 bool Bouton_option::Value() const { return Envoyer(BM_GETCHECK) == BST_CHECKED; }
 
+// Those that are disabled or do not show are unchosen too.
+void Bouton_option::Quitter_les_autres() {
+    const auto debute = [](HWND controle) {
+        return (GetWindowLongPtrW(controle, GWL_STYLE) & WS_GROUP) != 0;
+    };
+    HWND premier = Poignee();
+    for (HWND avant = premier; avant != nullptr && !debute(premier); avant = GetWindow(premier, GW_HWNDPREV))
+        premier = avant;
+    for (HWND autre = premier; autre != nullptr && (autre == premier || !debute(autre));
+         autre      = GetWindow(autre, GW_HWNDNEXT)) {
+        if (autre != Poignee() && dynamic_cast<Bouton_option *>(Controle_de_poignee(autre)) != nullptr)
+            SendMessageW(autre, BM_SETCHECK, BST_UNCHECKED, 0);
+    }
+}
+
 void Bouton_option::Value(bool choisi) {
     if (choisi == Value()) return;
-    if (choisi)
-        Envoyer(BM_CLICK);  // unchecks the others of its group
-    else
-        Envoyer(BM_SETCHECK, BST_UNCHECKED);
+    // A click sent by the program would take the focus, even in a window that does not show yet.
+    if (choisi) Quitter_les_autres();
+    Envoyer(BM_SETCHECK, choisi ? BST_CHECKED : BST_UNCHECKED);
+    if (choisi && Click) Click();
 }
 
 void Bouton_option::Notification(unsigned code) {
@@ -274,18 +303,28 @@ void Barre_defilement::Bornes(int minimum, int maximum) {
     SetScrollInfo(Poignee(), SB_CTL, &bornes, TRUE);
 }
 
+// The mark of the focus blinks over the slider: not every system moves it along.
+void Barre_defilement::Montrer_place() {
+    const bool marquee = A_le_focus();
+    if (marquee) HideCaret(Poignee());
+    SetScrollPos(Poignee(), SB_CTL, valeur_, TRUE);
+    if (!marquee) return;
+    SCROLLBARINFO place{};
+    place.cbSize = sizeof place;
+    if (GetScrollBarInfo(Poignee(), OBJID_CLIENT, &place) != FALSE) SetCaretPos(place.xyThumbTop + 1, 1);
+    ShowCaret(Poignee());
+}
+
 void Barre_defilement::Value(int valeur) {
     const int borne = std::clamp(valeur, minimum_, maximum_);
     if (borne == valeur_) return;
     valeur_ = borne;
-    SetScrollPos(Poignee(), SB_CTL, borne, TRUE);
+    Montrer_place();
     if (Change) Change();
 }
 
 void Barre_defilement::Notification(unsigned code) {
-    SCROLLINFO place{sizeof place, SIF_ALL, 0, 0, 0, 0, 0};
-    GetScrollInfo(Poignee(), SB_CTL, &place);
-    switch (code) {
+    switch (LOWORD(code)) {
     case SB_LINELEFT:
     case SB_PAGELEFT: return Value(valeur_ - 1);
     case SB_LINERIGHT:
@@ -293,9 +332,21 @@ void Barre_defilement::Notification(unsigned code) {
     case SB_LEFT: return Value(minimum_);
     case SB_RIGHT: return Value(maximum_);
     case SB_THUMBTRACK:
-        Value(place.nTrackPos);
+        Value(static_cast<short>(HIWORD(code)));
         if (Scroll) Scroll();
         return;
+    case SB_THUMBPOSITION: return Value(static_cast<short>(HIWORD(code)));
     default: return;
     }
+}
+
+bool Barre_defilement::Message(unsigned message, std::uintptr_t mot, std::intptr_t,
+                               std::intptr_t & resultat) {
+    if (message != WM_MOUSEWHEEL) return false;
+    molette_ += GET_WHEEL_DELTA_WPARAM(mot);
+    const int crans = molette_ / WHEEL_DELTA;
+    molette_ -= crans * WHEEL_DELTA;
+    Value(valeur_ - crans);
+    resultat = 0;
+    return true;
 }

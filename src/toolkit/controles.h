@@ -26,7 +26,7 @@ class Bouton_commande : public Controle {
 public:
     Bouton_commande(Fenetre & fenetre, const Place & place);
     std::wstring Caption() const { return Texte_fenetre(); }
-    void         Caption(const std::wstring & texte) { Texte_fenetre(texte); }
+    void         Caption(const std::wstring & texte);  // centred; one that is too long shows its beginning
     void         Enabled(bool actif) override;
     bool         Enabled() const { return Controle::Enabled(); }
     void         Brancher(std::function<void()> click);  // binds Click; the button becomes usable
@@ -80,14 +80,17 @@ protected:
 class Bouton_option : public Controle {
 public:
     Bouton_option(Fenetre & fenetre, const Place & place, bool premiere = false);
-    bool                  Value() const;
-    void                  Value(bool choisi);
+    bool Value() const;
+    void Value(bool choisi);  // raises Click when it differs; the others of the group are unchosen
     std::function<void()> Click;
 
 protected:
     void Notification(unsigned code) override;
     bool Acces() override;
     bool Veut_fleches() const override { return true; }
+
+private:
+    void Quitter_les_autres();
 };
 
 // A coloured panel with a border, behind the controls of its group.
@@ -146,6 +149,7 @@ private:
     std::wstring caption_;
 };
 
+// A horizontal scroll bar: arrows, slider, Home and End, wheel.
 class Barre_defilement : public Controle {
 public:
     Barre_defilement(Fenetre & fenetre, const Place & place);
@@ -153,11 +157,16 @@ public:
     int                   Value() const { return valeur_; }
     void                  Value(int valeur);  // raises Change when it differs
     std::function<void()> Change;
-    std::function<void()> Scroll;
+    std::function<void()> Scroll;  // while the slider is dragged, after Change
 
 protected:
     void Notification(unsigned code) override;
+    bool Message(unsigned message, std::uintptr_t mot, std::intptr_t large,
+                 std::intptr_t & resultat) override;
 
 private:
+    void Montrer_place();
+
     int minimum_ = 0, maximum_ = 7, valeur_ = 0;
+    int molette_ = 0;  // turned and not yet a step
 };

@@ -64,13 +64,16 @@ wchar_t Lettre_acces(const std::wstring & caption) {
 
 struct Rappels_fenetre {
     static LRESULT CALLBACK Procedure(HWND poignee, UINT message, WPARAM mot, LPARAM large) {
+        auto * fenetre = reinterpret_cast<Fenetre *>(GetWindowLongPtrW(poignee, GWLP_USERDATA));
         if (message == WM_GETMINMAXINFO) {
             // A layout keeps its size on a screen smaller than it, where the system would cut the window down.
-            constexpr LONG sans_limite                            = 32767;
-            reinterpret_cast<MINMAXINFO *>(large)->ptMaxTrackSize = {sans_limite, sans_limite};
+            constexpr LONG sans_limite = 32767;
+            auto *         limites     = reinterpret_cast<MINMAXINFO *>(large);
+            limites->ptMaxTrackSize    = {sans_limite, sans_limite};
+            if (fenetre != nullptr && fenetre->largeur_min_ > 0)
+                limites->ptMinTrackSize = {fenetre->largeur_min_, fenetre->hauteur_min_};
             return 0;
         }
-        auto * fenetre = reinterpret_cast<Fenetre *>(GetWindowLongPtrW(poignee, GWLP_USERDATA));
         if (fenetre == nullptr) return DefWindowProcW(poignee, message, mot, large);
         return fenetre->Traiter(message, mot, large);
     }
@@ -167,6 +170,26 @@ int Fenetre::Width() const {
 int Fenetre::Height() const {
     const RECT cadre = Cadre_exterieur(*this);
     return Twips(cadre.bottom - cadre.top);
+}
+
+int Fenetre::Largeur_interieure() const {
+    RECT interieur{};
+    GetClientRect(poignee_, &interieur);
+    return Twips(interieur.right);
+}
+
+int Fenetre::Hauteur_interieure() const {
+    RECT interieur{};
+    GetClientRect(poignee_, &interieur);
+    return Twips(interieur.bottom);
+}
+
+void Fenetre::Taille_minimale(int width, int height) {
+    RECT cadre{0, 0, Pixels(width), Pixels(height)};
+    AdjustWindowRectEx(&cadre, static_cast<DWORD>(GetWindowLongPtrW(poignee_, GWL_STYLE)), FALSE,
+                       static_cast<DWORD>(GetWindowLongPtrW(poignee_, GWL_EXSTYLE)));
+    largeur_min_ = cadre.right - cadre.left;
+    hauteur_min_ = cadre.bottom - cadre.top;
 }
 
 void Fenetre::Move(int left, int top, int width, int height) {

@@ -34,6 +34,9 @@ public:
     int                  Top() const;
     int                  Width() const;
     int                  Height() const;
+    int                  Largeur_interieure() const;  // of the client area
+    int                  Hauteur_interieure() const;
+    void                 Taille_minimale(int width, int height);  // of the client area, when the user resizes
     void                 Move(int left, int top, int width, int height);
     void                 Move(int left, int top);
     Etat_fenetre         WindowState() const;
@@ -102,7 +105,8 @@ private:
     bool                    modale_       = false;
     bool                    montree_      = false;
     Fenetre *               proprietaire_ = nullptr;
-    std::function<void()>   suite_;         // for Apres_evenement
-    int  dernier_x_ = -1, dernier_y_ = -1;  // pointer at the last move treated, screen pixels
-    bool proprietaire_actif_ = true;        // as found when the modal showing began
+    std::function<void()>   suite_;           // for Apres_evenement
+    int  dernier_x_ = -1, dernier_y_ = -1;    // pointer at the last move treated, screen pixels
+    int  largeur_min_ = 0, hauteur_min_ = 0;  // outer frame, pixels
+    bool proprietaire_actif_ = true;          // as found when the modal showing began
 };

@@ -107,7 +107,7 @@ void Fenetre::Poursuivre() {
 std::intptr_t Fenetre::Traiter(unsigned message, std::uintptr_t mot, std::intptr_t large) {
     switch (message) {
     case WM_COMMAND: Notifier(reinterpret_cast<HWND>(large), HIWORD(mot)); return 0;
-    case WM_HSCROLL: Notifier(reinterpret_cast<HWND>(large), LOWORD(mot)); return 0;
+    case WM_HSCROLL: Notifier(reinterpret_cast<HWND>(large), static_cast<unsigned>(mot)); return 0;
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORLISTBOX:
     case WM_CTLCOLOREDIT:

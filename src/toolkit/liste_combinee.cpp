@@ -92,6 +92,11 @@ void Liste_combinee::Caret_a_la_fin() {
     Envoyer(CB_SETEDITSEL, 0, MAKELPARAM(fin, fin));
 }
 
+void Liste_combinee::Selectionner(int debut) {
+    const auto fin = static_cast<WORD>(Texte_fenetre().size());
+    Envoyer(CB_SETEDITSEL, 0, MAKELPARAM(static_cast<WORD>(debut), fin));
+}
+
 void Liste_combinee::Choix_fait() {
     if (Click) Click();
 }
@@ -118,7 +123,8 @@ void Liste_combinee::Notification(unsigned code) {
         if (GotFocus) GotFocus();
         break;
     case CBN_KILLFOCUS:
-        if (LostFocus) LostFocus();
+        // The edit inside had the focus, and by now another window has it.
+        Quitter_focus(GetFocus());
         break;
     case CBN_DROPDOWN:
         dernier_ = ListIndex();
@@ -145,6 +151,16 @@ void Liste_combinee::Oublier_choix() {
     Caret_a_la_fin();
 }
 
+// The arrows of the open list wrote its entries over the text.
+void Liste_combinee::Renoncer_au_choix() {
+    if (!editable_) {
+        Envoyer(CB_SETCURSEL, static_cast<WPARAM>(dernier_));
+    } else if (Texte_fenetre() != texte_) {
+        Texte_fenetre(texte_);
+        Oublier_choix();
+    }
+}
+
 bool Liste_combinee::Message(unsigned message, std::uintptr_t mot, std::intptr_t, std::intptr_t & resultat) {
     resultat = 0;
     // In the closed list the wheel would walk through drives, reading each of them.
@@ -152,7 +168,7 @@ bool Liste_combinee::Message(unsigned message, std::uintptr_t mot, std::intptr_t
     if (message != message_choix) return false;
     // Whatever way it came by, a choice made while a command runs is none.
     if (mot != 0 || Bouton_reserve() != nullptr) {
-        if (!editable_) Envoyer(CB_SETCURSEL, static_cast<WPARAM>(dernier_));
+        Renoncer_au_choix();
     } else if (ListIndex() >= 0 && (ListIndex() != dernier_ || editable_)) {
         // Choosing the same predefined entry again gives its text again.
         dernier_ = ListIndex();

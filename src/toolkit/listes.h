@@ -64,11 +64,14 @@ public:
     int          ListCount() const;
     std::wstring List(int index) const;
     int          ListIndex() const;
-    void         ListIndex(int index);  // raises Click when it changes
+    void         ListIndex(int index);                              // raises Click when it changes
+    void         Choisir(int index) { Choisir_en_silence(index); }  // raises nothing
     void         AddItem(const std::wstring & texte);
     void         RemoveItem(int index);
     void         Clear();
     void         Caret_a_la_fin();
+    void         Selectionner(int debut);   // of the text, from there to its end
+    bool         Deroule() const override;  // the list is open: arrows, Enter and Escape are its own
 
     std::function<void()> Change;
     std::function<void()> Click;
@@ -80,12 +83,12 @@ protected:
     virtual void Choix_fait();  // the user chose an entry
     void         Choisir_en_silence(int index);
     bool         Prendre_touche(int touche) override;
-    bool         Deroule() const override;
     void         Refermer() override;
     void         Reprendre_focus() override;
 
 private:
     void Oublier_choix();
+    void Renoncer_au_choix();
 
     bool         editable_;
     int          dernier_ = -1;  // entry last reported

@@ -180,6 +180,155 @@ TEST_F(Aide, avec_le_fichier_d_aide_f1_et_le_bouton_l_ouvrent_au_lieu_du_panneau
     EXPECT_TRUE(Lire(L"Fenêtre").empty());
 }
 
+// The manual itself, opened in place of the panel.
+class Aide_fichier : public Korvane {
+protected:
+    Aide_fichier() { Regler(L"Options", L"Aide en ligne", L"Oui"); }
+    explicit Aide_fichier(const std::wstring & chemin) : Korvane(chemin) {
+        Regler(L"Options", L"Aide en ligne", L"Oui");
+    }
+    ~Aide_fichier() override {
+        Korvane::Fermer();
+        Fermer_manuel();
+        DeleteFileW(souche);
+    }
+    void Fournir(const std::wstring & nom) const {
+        Creer_dossier(dossier / L"programme");
+        ASSERT_TRUE(CopyFileW((Repertoire_essais() + L"\\" + nom).c_str(),
+                              (dossier / (L"programme\\" + nom)).c_str(), TRUE))
+            << Utf8(nom);
+    }
+    // Some ten kilobytes under the engine's name, found before it, as on recent systems.
+    static void Remplacer_moteur() { Creer_fichier(souche, Contenu(11000, 1)); }
+
+    static HWND Manuel() { return FindWindowW(L"MS_WINHELP", nullptr); }
+    static bool Manuel_dit(const std::wstring & mots) {
+        bool dit = false;
+        Parcourir(Manuel(), [&](HWND controle) {
+            dit = dit ||
+                  (Classe(controle) == L"RichEdit20A" && Texte(controle).find(mots) != std::wstring::npos);
+        });
+        return dit;
+    }
+    static void Fermer_manuel() {
+        if (Manuel()) PostMessageW(Manuel(), WM_CLOSE, 0, 0);
+        ATTENDRE(!Manuel());
+    }
+    // Another program of the user's own for the other manual.
+    class Lecteur_chm {
+    public:
+        explicit Lecteur_chm(const std::wstring & trace) {
+            DWORD octets = sizeof avant_;
+            RegGetValueW(HKEY_LOCAL_MACHINE, cle_chm, nullptr, RRF_RT_REG_SZ, nullptr, avant_, &octets);
+            Ecrire(L"\"" + Repertoire_essais() + L"\\enregistreur.exe\" \"%1\"");
+            SetEnvironmentVariableW(L"KORVANE_ENREGISTREMENT", trace.c_str());
+        }
+        ~Lecteur_chm() {
+            Ecrire(avant_);
+            SetEnvironmentVariableW(L"KORVANE_ENREGISTREMENT", nullptr);
+        }
+        Lecteur_chm(const Lecteur_chm &)             = delete;
+        Lecteur_chm & operator=(const Lecteur_chm &) = delete;
+
+    private:
+        static void Ecrire(const std::wstring & commande) {
+            RegSetKeyValueW(HKEY_LOCAL_MACHINE, cle_chm, nullptr, REG_SZ, commande.c_str(),
+                            static_cast<DWORD>((commande.size() + 1) * sizeof(wchar_t)));
+        }
+        static constexpr const wchar_t * cle_chm = L"Software\\Classes\\chm.file\\shell\\open\\command";
+
+        wchar_t avant_[1024]{};
+    };
+    // The line that the recorder wrote, once; nothing else was opened.
+    void Attendre_chm(const std::wstring & trace) {
+        EXIGER(Existe(trace) && Taille_fichier(trace) > 0);
+        const std::wstring chemin = dossier / L"programme\\KORVANE.CHM";
+        EXPECT_NE(Large(Lire_fichier(trace)).find(L"\"" + chemin + L"\""), std::wstring::npos)
+            << Lire_fichier(trace);
+        EXPECT_EQ(Manuel(), nullptr);
+        EXPECT_TRUE(Boite_absente());
+        Pilote::Effacer(trace);
+    }
+
+    static constexpr const wchar_t * souche       = L"C:\\windows\\winhlp32.exe";
+    const std::wstring               gestionnaire = L"Gestionnaire de fichiers";
+};
+
+TEST_F(Aide_fichier, le_manuel_s_ouvre_au_sommaire_par_le_bouton_et_par_f1_et_se_ferme_avec_le_programme) {
+    Fournir(L"KORVANE.HLP");
+    Lancer();
+    Cliquer(L"Aide");
+    EXIGER(Manuel_dit(L"Présentation") && Manuel_dit(L"La corbeille"));
+    Fermer_manuel();
+    SetForegroundWindow(Principale());
+    ATTENDRE(GetForegroundWindow() == Principale());
+    Frapper(VK_F1);
+    EXIGER(Manuel_dit(L"Présentation"));
+    Fermer_manuel();
+    // From a child window too; the manual stays when that window closes.
+    SetForegroundWindow(Principale());
+    Cliquer(L"Corbeille");
+    EXIGER(Fenetre(L"Corbeille") && GetForegroundWindow() == Fenetre(L"Corbeille"));
+    Frapper(VK_F1);
+    EXIGER(Manuel_dit(L"Présentation"));
+    SetForegroundWindow(Fenetre(L"Corbeille"));
+    ATTENDRE(GetForegroundWindow() == Fenetre(L"Corbeille"));
+    Frapper(VK_ESCAPE);
+    ATTENDRE(!Fenetre(L"Corbeille"));
+    EXPECT_TRUE(Manuel());
+    SetForegroundWindow(Principale());
+    Reposer(Principale());
+    EXPECT_TRUE(Boite_absente());
+    Cliquer(L"Quitter");
+    Attendre_boite(gestionnaire, L"Voulez-vous QUITTER\rle Gestionnaire de fichiers ?",
+                   MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2, IDYES);
+    EXPECT_TRUE(programme->Attendre_fin(5000));
+    ATTENDRE(!Manuel());
+}
+
+TEST_F(Aide_fichier, sans_moteur_pour_le_premier_ou_sans_lui_l_autre_manuel_s_ouvre) {
+    const std::wstring trace = dossier / L"trace.txt";
+    const Lecteur_chm  lecteur(trace);
+    Fournir(L"KORVANE.HLP");
+    Fournir(L"KORVANE.CHM");
+    Remplacer_moteur();
+    Lancer();
+    Cliquer(L"Aide");
+    Attendre_chm(trace);
+    Frapper(VK_F1);
+    Attendre_chm(trace);
+    // The engine is there, its file is not.
+    DeleteFileW(souche);
+    Pilote::Effacer(dossier / L"programme\\KORVANE.HLP");
+    Frapper(VK_F1);
+    Attendre_chm(trace);
+}
+
+TEST_F(Aide_fichier, sans_moteur_et_sans_l_autre_manuel_un_message_le_dit) {
+    Fournir(L"KORVANE.HLP");
+    Remplacer_moteur();
+    Lancer();
+    Cliquer(L"Aide");
+    Attendre_boite(gestionnaire, L"Le fichier d'aide KORVANE.HLP ne peut pas être ouvert sur ce système.",
+                   MB_OK | MB_ICONINFORMATION, IDOK);
+    ATTENDRE(GetForegroundWindow() == Principale() && A_le_focus(L"Aide"));
+}
+
+// A directory whose name the system's code page cannot hold.
+class Aide_fichier_ailleurs : public Aide_fichier {
+protected:
+    Aide_fichier_ailleurs() : Aide_fichier(L"C:\\essais\\\u041A\u043B\u044E\u0447") {}
+};
+
+TEST_F(Aide_fichier_ailleurs, le_manuel_s_ouvre_dans_un_repertoire_au_nom_d_un_autre_alphabet) {
+    Fournir(L"KORVANE.HLP");
+    Ne_pas_regler(L"Options", L"Répertoire");
+    Lancer();
+    Cliquer(L"Aide");
+    EXIGER(Manuel_dit(L"Présentation"));
+    EXPECT_TRUE(Boite_absente());
+}
+
 // Names too long for their list.
 class Astuce : public Korvane {
 protected:

@@ -10,6 +10,9 @@ TEST(Ligne_conf, le_premier_egal_separe_la_cle_de_la_valeur) {
                {L"&Édition=C:\\A=B.EXE", {L"&Édition", L"C:\\A=B.EXE"}},
                {L"a=", {L"a", L""}},
                {L"=b", {}},
+               {L" md =x", {L"md", L"x"}},  // a key has no blanks around it in the file
+               {L"&Tout voir= x ", {L"&Tout voir", L" x "}},
+               {L"  =x", {L"", L"x"}},
                {L"sans", {}},
                {L"", {}}};
     for (const auto & c : cas)
@@ -30,7 +33,12 @@ TEST(Ligne_conf, boutons_permis_pendant_la_saisie) {
                {L"a=*.txt", selections, {false, true}},  {L"txt=", associations, {true, false}},
                {L"txt=a", associations, {true, true}},   {L"t=a", associations, {true, true}},
                {L"html=", associations, {false, false}}, {L"html=a", associations, {false, false}},
-               {L"=a", associations, {false, false}}};
+               {L"=a", associations, {false, false}},    {L"md = ", associations, {true, false}},
+               {L" md=a", associations, {true, true}},   {L"md  =a", associations, {false, false}},
+               {L"a= \t", boutons, {true, false}},       {L"a= ", selections, {false, false}},
+               {L"  =a", boutons, {false, false}},       {L";a=b", boutons, {false, false}},
+               {L" ;a=b", selections, {false, false}},   {L"[a]=b", boutons, {false, false}},
+               {L"a;[=b", boutons, {true, true}},        {L"a==", boutons, {true, true}}};
     for (const auto & c : cas) {
         EXPECT_EQ(Permettre(c.ligne, c.section), c.attendu) << testing::PrintToString(c.ligne);
     }
@@ -41,4 +49,14 @@ TEST(Ligne_conf, le_fichier_choisi_compose_la_ligne) {
               L"txt=C:\\APPS\\ED.EXE ^.txt");
     EXPECT_EQ(Composer_ligne(L"&Ed=ancien", L"C:\\APPS\\ED.EXE", Section_conf::boutons),
               L"&Ed=C:\\APPS\\ED.EXE");
+    EXPECT_EQ(Composer_ligne(L"md =", L"C:\\ED.EXE", Section_conf::associations), L"md=C:\\ED.EXE ^.md");
+}
+
+TEST(Ligne_conf, la_casse_des_lettres_simples_ne_fait_pas_une_autre_cle) {
+    EXPECT_TRUE(Meme_cle(L"Tout Voir", L"tOUT vOIR"));
+    EXPECT_TRUE(Meme_cle(L"", L""));
+    EXPECT_FALSE(Meme_cle(L"Voir", L"Voir1"));
+    EXPECT_FALSE(Meme_cle(L"Voir1", L"Voir"));
+    EXPECT_FALSE(Meme_cle(L"Été", L"été"));
+    EXPECT_FALSE(Meme_cle(L"[", L"{"));
 }

@@ -18,6 +18,7 @@ struct Fenetre_essai : Fenetre {
     Case_a_cocher     Case{*this, {L"Case", 0, 0, 1500, 330}};
     Bouton_option     Premiere{*this, {L"Premiere", 0, 0, 1500, 330}, true};
     Bouton_option     Seconde{*this, {L"Seconde", 0, 0, 1500, 330}};
+    Bouton_option     Autre_groupe{*this, {L"Autre_groupe", 0, 0, 1500, 330}, true};
     Liste             Simple{*this, {L"Simple", 0, 0, 1500, 1500}, false};
     Liste             Multiple{*this, {L"Multiple", 0, 0, 1500, 1500}, true};
     Liste_combinee    Combinee{*this, {L"Combinee", 0, 0, 1500, 330}, true};
@@ -113,6 +114,18 @@ TEST_F(Evenements, les_cases_les_options_et_les_barres_en_levent_quand_elles_cha
     EXPECT_EQ(f->Barre.Value(), 9);
     f->Barre.Value(9);
     EXPECT_EQ(nombre, 4);
+}
+
+TEST_F(Evenements, une_option_affectee_quitte_les_autres_de_son_groupe_actives_ou_non) {
+    f->Premiere.Enabled(false);
+    f->Premiere.Value(true);
+    f->Autre_groupe.Value(true);
+    f->Seconde.Value(true);
+    EXPECT_TRUE(f->Seconde.Value() && !f->Premiere.Value() && f->Autre_groupe.Value());
+    f->Premiere.Value(true);
+    EXPECT_TRUE(!f->Seconde.Value() && f->Premiere.Value() && f->Autre_groupe.Value());
+    f->Premiere.Value(false);
+    EXPECT_TRUE(!f->Seconde.Value() && !f->Premiere.Value());
 }
 
 TEST_F(Evenements, une_unite_affectee_ne_compte_que_par_sa_lettre_et_une_unite_absente_leve_l_erreur_68) {

@@ -1,5 +1,9 @@
+#include "coupures/interception.h"
+#include "platform/poignee.h"
 #include "platform/profil.h"
 #include "services/banc.h"
+
+using namespace Interception;
 
 namespace {
 
@@ -95,6 +99,160 @@ TEST_F(Profil, un_repertoire_hors_de_la_page_de_codes_garde_ses_reglages_ou_le_d
 
 ESSAI_UNITE(E, des_reglages_sur_un_support_protege_refusent_l_ecriture) {
     EXPECT_EQ(75, Numero_leve([] { Ecrire_profil(L"e:\\ESSAI.INI", L"Options", L"Confirme", L"Oui"); }));
+}
+
+TEST_F(Profil, ce_qui_est_relu_est_ce_qui_a_ete_ecrit) {
+    const std::wstring valeurs[] = {L"\"C:\\Program Files\\A.EXE\"",
+                                    L"'a'",
+                                    L" a ",
+                                    L"\"a\" b",
+                                    L"a=b;c[d]",
+                                    L"été",
+                                    std::wstring(1000, L'é'),
+                                    L"\"",
+                                    L"",
+                                    std::wstring(32000, L'à'),
+                                    L' ' + std::wstring(31998, L'x') + L' '};
+    for (const std::wstring & valeur : valeurs) {
+        SCOPED_TRACE(valeur.size());
+        EXPECT_EQ(0, Numero_leve([&] { Ecrire_profil(ini_, L"Boutons", L"&Été", valeur); }));
+        EXPECT_TRUE(valeur == Lire_profil(ini_, L"Boutons", L"&Été", L"", 65535));
+    }
+}
+
+TEST_F(Profil, une_valeur_trop_longue_pour_le_systeme_est_refusee_et_se_lit) {
+    const std::string avant = "[Boutons]\r\nUn=" + std::string(60000, 'v') + "\r\n";
+    Poser(ini_, avant);
+    EXPECT_EQ(std::wstring(60000, L'v'), Lire_profil(ini_, L"Boutons", L"Un", L"", 65535));
+    EXPECT_EQ(6, Numero_leve([&] { Ecrire_profil(ini_, L"Boutons", L"Un", std::wstring(32001, L'w')); }));
+    EXPECT_TRUE(avant == Contenu(ini_));
+}
+
+TEST_F(Profil, l_ordre_des_changements_est_celui_de_la_section) {
+    Poser(ini_, "[Options]\r\nAide=Oui\r\n[Boutons]\r\nUn=1\r\n; remarque\r\nDeux=2\r\n[Fin]\r\nx=y\r\n");
+    Changer_profil(ini_, L"Boutons", {{L"Un", std::nullopt}, {L"Un", L"11"}, {L"Deux", std::nullopt}});
+    EXPECT_EQ("[Options]\r\nAide=Oui\r\n[Boutons]\r\n; remarque\r\nUn=11\r\n[Fin]\r\nx=y\r\n", Contenu(ini_));
+    EXPECT_FALSE(Present(ini_ + L".krv~"));
+}
+
+TEST_F(Profil, un_changement_refuse_laisse_le_fichier_entier) {
+    const std::string avant = "[Boutons]\r\nUn=1\r\nDeux=2\r\n";
+    Poser(ini_, avant);
+    for (const wchar_t * valeur : {L"Ω", L"1\r\nTrois=3"}) {
+        EXPECT_EQ(75, Numero_leve([&] {
+                      Changer_profil(ini_, L"Boutons", {{L"Un", std::nullopt}, {L"Trois", valeur}});
+                  }));
+        EXPECT_EQ(avant, Contenu(ini_));
+    }
+    EXPECT_FALSE(Present(ini_ + L".krv~"));
+}
+
+// Killed or refused at any call of its own, the program leaves one of the two files, whole.
+TEST_F(Profil, une_mort_ou_une_panne_a_tout_appel_laisse_l_ancien_fichier_ou_le_nouveau) {
+    const std::string avant = "[Boutons]\r\nUn=1\r\nDeux=2\r\n[Fin]\r\nx=y\r\n";
+    const std::string apres = "[Boutons]\r\nDeux=2\r\nTrois=3\r\n[Fin]\r\nx=y\r\n";
+    for (const Effet effet :
+         {Effet::mourir_avant, Effet::mourir_pendant, Effet::mourir_apres, Effet::echouer}) {
+        bool atteint = true;
+        for (unsigned rang = 1; atteint; ++rang) {
+            Poser(ini_, avant);
+            int erreur              = 0;
+            atteint                 = Jouer({effet, rang, ERROR_DISK_FULL, false}, Fin::fil, [&] {
+                          erreur = Numero_leve([&] {
+                              Changer_profil(ini_, L"Boutons", {{L"Trois", L"3"}, {L"Un", std::nullopt}});
+                          });
+                      }).atteint;
+            const std::string reste = Contenu(ini_);
+            EXPECT_TRUE(reste == apres || (reste == avant && (erreur != 0 || effet != Effet::echouer)))
+                << rang << " " << reste;
+            EXPECT_TRUE(atteint || rang > 5) << rang;
+        }
+    }
+}
+
+TEST_F(Profil, une_copie_abandonnee_ne_gene_pas_et_une_copie_impossible_non_plus) {
+    Poser(ini_, "[Boutons]\r\nUn=1\r\n");
+    Poser(ini_ + L".krv~", "[Boutons]\r\nAncien=1\r\n");
+    Ecrire_profil(ini_, L"Boutons", L"Deux", L"2");
+    EXPECT_EQ("[Boutons]\r\nUn=1\r\nDeux=2\r\n", Contenu(ini_));
+    EXPECT_FALSE(Present(ini_ + L".krv~"));
+    Repertoire(L"ESSAI.INI.krv~");
+    Ecrire_profil(ini_, L"Boutons", L"Un", std::nullopt);
+    EXPECT_EQ("[Boutons]\r\nDeux=2\r\n", Contenu(ini_));
+}
+
+TEST_F(Profil, un_fichier_ouvert_ailleurs_s_ecrit_sur_place_et_un_fichier_verrouille_le_dit) {
+    Poser(ini_, "[Boutons]\r\nUn=1\r\n");
+    const auto tenir = [&](DWORD partage) {
+        return Poignee_fichier(
+            CreateFileW(ini_.c_str(), GENERIC_READ, partage, nullptr, OPEN_EXISTING, 0, nullptr));
+    };
+    {
+        const auto ouvert = tenir(FILE_SHARE_READ | FILE_SHARE_WRITE);
+        Ecrire_profil(ini_, L"Boutons", L"Deux", L"2");
+        EXPECT_EQ("[Boutons]\r\nUn=1\r\nDeux=2\r\n", Contenu(ini_));
+        Exiger_lisible(ini_);
+    }
+    {
+        const auto verrouille = tenir(0);
+        EXPECT_EQ(70, Numero_leve([&] { Exiger_lisible(ini_); }));
+        EXPECT_EQ(75, Numero_leve([&] { Ecrire_profil(ini_, L"Boutons", L"Trois", L"3"); }));
+    }
+    EXPECT_EQ("[Boutons]\r\nUn=1\r\nDeux=2\r\n", Contenu(ini_));
+    EXPECT_FALSE(Present(ini_ + L".krv~"));
+    Exiger_lisible(Chemin(L"absent.INI"));
+}
+
+TEST_F(Profil, un_fichier_en_utf_16_garde_ses_caracteres) {
+    const std::wstring texte = L"\uFEFF[Boutons]\r\nUn=Ω\r\n";
+    Poser(ini_, std::string(reinterpret_cast<const char *>(texte.data()), texte.size() * 2));
+    Ecrire_profil(ini_, L"Boutons", L"Été", L"é");
+    EXPECT_EQ(L"é", Lire_profil(ini_, L"Boutons", L"Été", L"", 128));
+    const std::string  octets = Contenu(ini_);
+    const std::wstring apres(reinterpret_cast<const wchar_t *>(octets.data()), octets.size() / 2);
+    EXPECT_EQ(L"\uFEFF[Boutons]\r\nUn=Ω\r\nÉté=é\r\n", apres);
+}
+
+// A file of that name in the current directory is another one.
+TEST_F(Profil, win_ini_s_ecrit_quel_que_soit_le_repertoire_courant) {
+    Poser(Chemin(L"WIN.INI"), "[x]\r\n");
+    Regler_attributs(Chemin(L"WIN.INI"), FILE_ATTRIBUTE_READONLY);
+    SetCurrentDirectoryW(Racine().c_str());
+    for (const wchar_t * valeur : {L"\"C:\\A.EXE\" ^.krv", L"'C:\\A.EXE ^.krv'", L" C:\\A.EXE ^.krv"}) {
+        Changer_profil(L"WIN.INI", L"Extensions", {{L"krv", std::nullopt}, {L"krv", valeur}});
+        const std::wstring lue = Lire_profil(L"", L"Extensions", L"krv", L"", 128);
+        // Some systems drop a blank in front, there alone.
+        EXPECT_TRUE(lue == valeur || (valeur[0] == L' ' && lue == valeur + 1));
+    }
+    // A failure gives the key its value back.
+    EXPECT_EQ(
+        75, Numero_leve([] {
+            Changer_profil(L"WIN.INI", L"Essai des services", {{L"cle", L"1"}});
+            Changer_profil(L"WIN.INI", L"Essai des services", {{L"cle", std::nullopt}, {L"x", L"1\r\n2"}});
+        }));
+    EXPECT_EQ(L"1", Lire_profil(L"", L"Essai des services", L"cle", L"", 128));
+    WriteProfileStringW(L"Essai des services", nullptr, nullptr);
+    Ecrire_profil(L"WIN.INI", L"Extensions", L"krv", std::nullopt);
+    EXPECT_EQ(L"", Lire_profil(L"", L"Extensions", L"krv", L"", 128));
+    Regler_attributs(Chemin(L"WIN.INI"), FILE_ATTRIBUTE_NORMAL);
+}
+
+ESSAI_UNITE(A, sur_un_disque_plein_les_reglages_restent_entiers) {
+    Vider_repertoire(L"a:");
+    std::string avant = "[Boutons]\r\nUn=1\r\n[Options]\r\n";
+    for (int i = 0; i < 400; ++i) avant += "Cle" + std::to_string(i) + "=valeur\r\n";
+    Poser(L"a:\\ESSAI.INI", avant);
+    ULARGE_INTEGER libre{};
+    GetDiskFreeSpaceExW(L"a:\\", &libre, nullptr, nullptr);
+    for (const std::uint64_t reste : {0, 4096, 8192, 12288}) {
+        Poser(L"a:\\plein", std::string(static_cast<std::size_t>(libre.QuadPart - reste), 'x'));
+        EXPECT_EQ(61, Numero_leve([] {
+                      Ecrire_profil(L"a:\\ESSAI.INI", L"Boutons", L"Un", std::wstring(6000, L'v'));
+                  }));
+        EXPECT_TRUE(avant == Contenu(L"a:\\ESSAI.INI")) << reste;
+        EXPECT_FALSE(Present(L"a:\\ESSAI.INI.krv~"));
+    }
+    Vider_repertoire(L"a:");
 }
 
 }  // namespace
