@@ -142,7 +142,7 @@ std::uint64_t Vue_texte::Derniere_page() {
 void Vue_texte::Charger() {
     rangees_.clear();
     if (contenu_ == nullptr) return;
-    const auto    voulues  = static_cast<std::size_t>(hauteur_ / pas_y_ + 1);
+    const auto    voulues  = static_cast<std::size_t>(hauteur_ / pas_y_) + 1;
     std::uint64_t position = premiere_;
     while (rangees_.size() < voulues && position < contenu_->Longueur()) {
         rangees_.push_back(contenu_->Lire(position));

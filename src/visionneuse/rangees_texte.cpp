@@ -69,7 +69,7 @@ std::optional<Rangees_texte::Ligne> Rangees_texte::Jusqu_a_la_fin(std::uint64_t 
         if (lue == L'\n') return Ligne{debut, p, p + unite};
         if (lue == L'\r') {
             const bool deux = decodeur_.Lire_unite(octets_, p + unite) == L'\n';
-            return Ligne{debut, p, p + unite * (deux ? 2U : 1U)};
+            return Ligne{debut, p, p + unite + (deux ? unite : 0U)};
         }
     }
     return std::nullopt;

@@ -31,7 +31,7 @@ Seance::Occupation::~Occupation() {
     seance_.f.Arrêter.Enabled(false);
     seance_.occupee_ = false;
     // Once every handler under way is over.
-    seance_.f.Apres_evenement([&seance = seance_] { seance.Finir_occupation(); });
+    seance_.f.Apres_evenement([&seance = seance_] { seance.Suite(); });
 }
 
 Seance::Seance() {
@@ -97,9 +97,14 @@ void Seance::Proteger(const std::function<void()> & corps) {
     Message_boite(Pour_boite(libelle), Boite::exclamation, L"Visionneuse");
 }
 
-void Seance::Finir_occupation() {
+void Seance::Suite() {
     if (occupee_) return;
     if (fermer_) return Application::Terminer();
+    if (en_panne_) {
+        // A file that fails is let go of, so that its medium can be taken out.
+        rangees_.reset();
+        document_.reset();
+    }
     if (!en_attente_.empty()) Ouvrir(std::exchange(en_attente_, {}));
 }
 

@@ -45,7 +45,8 @@ private:
     void Disposer();
     // Runs it and reports what it ends with: nothing may pass through a call of the system's.
     void Proteger(const std::function<void()> & corps);
-    void Finir_occupation();
+    // Once the event being treated is over: what had to wait for it.
+    void Suite();
 
     int          Ajouter(const std::wstring & chemin);  // its rank in the list
     void         Montrer(int rang);

@@ -6,8 +6,8 @@
 #include "visionneuse/seance.h"
 
 namespace {
-constexpr std::uint64_t tranche         = 262144;            // bytes between two looks at the events
-constexpr std::uint64_t copie_maximale  = 16 * 1024 * 1024;  // bytes
+constexpr std::uint64_t tranche         = 262144;    // bytes between two looks at the events
+constexpr std::uint64_t copie_maximale  = 16777216;  // bytes
 constexpr int           majuscules_ctrl = 2;
 
 namespace Raccourcis {

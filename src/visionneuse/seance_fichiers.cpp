@@ -126,6 +126,7 @@ void Seance::Panne(const std::exception & faute) {
     else
         f.Vue.Avis(Libelle_panne(Numero::entree_sortie, chemin, {}));
     f.Position.Caption(L"");
+    f.Apres_evenement([this] { Suite(); });
 }
 
 void Seance::Dire_etat(const std::wstring & texte) { f.Etat.Caption(texte); }

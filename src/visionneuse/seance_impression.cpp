@@ -8,8 +8,8 @@
 #include <algorithm>
 
 namespace {
-constexpr std::uint64_t beaucoup        = 200 * 1024;  // bytes from which on printing is asked about
-constexpr std::uint64_t octets_par_page = 3000;        // of ordinary text
+constexpr std::uint64_t beaucoup        = 204800;  // bytes from which on printing is asked about
+constexpr std::uint64_t octets_par_page = 3000;    // of ordinary text
 
 bool Confirmer(std::uint64_t longueur, bool hexa) {
     if (longueur <= beaucoup) return true;

@@ -1,4 +1,5 @@
 #include "fenetres/visionneuse.h"
+#include "pilote/unites.h"
 
 #include <algorithm>
 #include <vector>
@@ -137,4 +138,40 @@ TEST_F(Visionneuse, un_fichier_vide_ne_s_imprime_pas_et_l_on_demande_avant_d_en_
     EXPECT_NE(Lire_boite(boite).texte.find(L"environ 100 pages"), std::wstring::npos);
     EXPECT_TRUE(Repondre_boite(boite, IDNO));
     ATTENDRE(Fenetre().Est_actif(L"Imprimer"));
+}
+
+class Visionneuse_DR : public Visionneuse {
+protected:
+    Visionneuse_DR() { Unite::Vider(L'D'); }
+    ~Visionneuse_DR() override {
+        programme.reset();
+        Unite::Remettre_disque();
+    }
+};
+
+TEST_F(Visionneuse_DR, un_disque_arrache_pendant_qu_un_de_ses_fichiers_se_montre_est_dit_et_se_relit_remis) {
+    Creer_fichier(L"D:\\long.txt", std::string(8 * 1024 * 1024, 'a') + "\r\nfin");
+    Creer(L"autre.txt", "autre");
+    Lancer(L"D:\\long.txt " + Chemin(L"autre.txt"));
+    EXPECT_TRUE(Premiere_ligne().starts_with(L"aaa"));
+    Unite::Arracher_disque();
+    Frapper_ctrl(VK_END);
+    EXPECT_TRUE(Montre(L"D:\\long.txt\n\n"));
+    EXPECT_EQ(Boite_visible(programme->Numero()), nullptr);
+    EXPECT_FALSE(Fenetre().Est_actif(L"Imprimer"));
+    Frapper(VK_F5);
+    EXPECT_TRUE(Montre(L"D:\\long.txt\n\n"));
+    Choisir(L"Fichiers", 1);
+    EXPECT_EQ(Lu(), L"autre\r\n");
+    Unite::Remettre_disque();
+    Choisir(L"Fichiers", 0);
+    Frapper_ctrl(VK_END);
+    EXPECT_TRUE(Montre(L"fin\r\n"));
+}
+
+class Visionneuse_F : public Visionneuse {};
+
+TEST_F(Visionneuse_F, une_unite_sans_disque_est_dite_dans_la_vue) {
+    Lancer(L"F:\\x.txt");
+    EXPECT_TRUE(Montre(L"L'unité n'est pas prête : il n'y a pas de disque."));
 }
