@@ -24,9 +24,7 @@ void Imprimer_ligne(Imprimante & imprimante, const std::wstring & ligne) {
 }
 
 // To the end of the file, or until the user stops it.
-void Imprimer_lignes(Gestion_Fichiers & f, Lecture & lecture, Imprimante & imprimante) {
-    Avance avance(lecture.Longueur());
-    Montrer_jauge(f, avance, true);
+void Imprimer_lignes(Gestion_Fichiers & f, Lecture & lecture, Avance & avance, Imprimante & imprimante) {
     while (!variables.Arret_demande) {
         const Lecture::Avancee avancee = lecture.Avancer();
         if (avancee == Lecture::Avancee::fin) return;
@@ -41,15 +39,21 @@ void Imprimer_lignes(Gestion_Fichiers & f, Lecture & lecture, Imprimante & impri
 Suite Imprimer_fichier(Gestion_Fichiers & f) {
     Lecture lecture(variables.Chemin_source, caracteres_imprimes);
     if (lecture.Longueur() == 0) return Suite::continuer;
+    Avance avance(lecture.Longueur());
+    Montrer_jauge(f, avance, true);
     f.Arret.Visible(true);
     Afficher_en_cours(f);
     Application::Titre(L"Korvane - " + Majuscules(variables.Fichier_courant));
+    // The printer may take its time over both ends of a document: the window is painted before, and a stop asked for
+    // meanwhile is heard after.
+    Application::Laisser_passer(true);
     Imprimante                      imprimante(Application::Titre());
     const Abandon_en_fin_de_session abandon([&imprimante] { imprimante.Abandonner(); });
     if (imprimante.Abandonnee()) return Suite::terminer;
-    Imprimer_lignes(f, lecture, imprimante);
+    Imprimer_lignes(f, lecture, avance, imprimante);
     // The pages made before a stop come out.
     imprimante.Terminer();
+    Application::Laisser_passer(true);
     return variables.Arret_demande ? Suite::terminer : Suite::continuer;
 }
 }  // namespace

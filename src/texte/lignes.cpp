@@ -10,12 +10,17 @@ constexpr std::size_t tabulation    = 8;
 
 bool De_commande(wchar_t c) { return c < 32 || (c >= 127 && c < 160); }
 
-// A pair of surrogates is one character: half of it is nothing.
+// Two surrogates are one character.
+bool Paire(std::wstring_view texte, std::size_t place) {
+    return place + 1 < texte.size() && texte[place] >= 0xD800 && texte[place] < 0xDC00 &&
+           texte[place + 1] >= 0xDC00 && texte[place + 1] < 0xE000;
+}
+
 std::wstring_view Debut(std::wstring_view ligne) {
-    std::size_t longueur = caracteres_imprimes;
-    if (ligne.size() <= longueur) return ligne;
-    if (ligne[longueur - 1] >= 0xD800 && ligne[longueur - 1] < 0xDC00) --longueur;
-    return ligne.substr(0, longueur);
+    std::size_t fin = 0;
+    for (std::size_t i = 0; i < caracteres_imprimes && fin < ligne.size(); ++i)
+        fin += Paire(ligne, fin) ? 2 : 1;
+    return ligne.substr(0, fin);
 }
 
 std::wstring Etendre(std::wstring_view texte) {

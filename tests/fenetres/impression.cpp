@@ -152,6 +152,24 @@ TEST_F(Impressions, l_arret_finit_le_document_avec_ce_qui_est_imprime_et_la_comm
     EXPECT_EQ(travaux[0].pages.back().find("dernier"), std::string::npos);
 }
 
+TEST_F(Impressions, un_arret_pendant_qu_un_document_finit_ne_commence_pas_le_suivant) {
+    Regler(L"Options", L"Confirme", L"Oui");
+    for (const wchar_t * nom : {L"a.txt", L"b.txt"}) Ecrire(nom, "texte");
+    Lancer_choisis();
+    imprimante.Retenir(true);
+    Cliquer(L"Imprimer");
+    Attendre_imprimer(L"a.txt", oui_non_annuler, IDYES);
+    ATTENDRE(imprimante.Retient());
+    for (const wchar_t * montre : {L"Arret", L"En_cours"}) {
+        EXPECT_TRUE(Se_voit(montre)) << Utf8(montre);
+        EXPECT_FALSE(GetUpdateRect(Controle(montre), nullptr, FALSE)) << Utf8(montre);
+    }
+    Commencer(L"Arret");
+    imprimante.Retenir(false);
+    Verifier_repos(L"Imprimer");
+    EXPECT_EQ(Titres_de(imprimante.Travaux()), Titres{L"Korvane - A.TXT"});
+}
+
 TEST_F(Impressions, echappement_arrete_aussi_une_ligne_sans_fin) {
     Creer_longue(Source(L"longue.dat"));
     Lancer_choisis();

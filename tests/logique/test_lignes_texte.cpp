@@ -20,6 +20,12 @@ Textes Lignes(std::string_view texte, std::size_t bloc, Codage codage = Codage::
     return lignes;
 }
 
+std::wstring Paires(std::size_t nombre) {
+    std::wstring paires;
+    while (paires.size() < nombre * 2) paires += L"\xD83D\xDE00";
+    return paires;
+}
+
 Morceau Texte(const std::wstring & ligne) { return {false, ligne}; }
 Morceau Page(std::optional<std::wstring> ligne) { return {true, std::move(ligne)}; }
 }  // namespace
@@ -85,7 +91,9 @@ TEST(Lignes_texte, une_ligne_s_imprime_coupee_a_160_caracteres_tabulations_etend
                   {std::wstring(L"a\0b\x1A\x7F\x85z", 7), L"a b   z"},
                   {longue + L"y", longue},
                   {std::wstring(159, L'\t') + L"xy", std::wstring(159 * 8, L' ') + L"x"},
-                  {longue.substr(1) + L"\xD83D\xDE00", longue.substr(1)}};
+                  {longue.substr(1) + L"\xD83D\xDE00y", longue.substr(1) + L"\xD83D\xDE00"},
+                  {longue.substr(1) + L"\xD83Dy", longue.substr(1) + L"\xD83D"},
+                  {Paires(170), Paires(160)}};
     for (const auto & ligne : lignes) {
         EXPECT_EQ(std::vector{Texte(ligne.imprime)}, Morceaux_imprimables(ligne.ligne))
             << ligne.imprime.size();

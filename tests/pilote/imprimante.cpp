@@ -56,6 +56,7 @@ const char * const description = R"ppd(*PPD-Adobe: "4.3"
 // The end of a document waits for it. A job is seen only when it is whole, with its text beside it.
 const char * const reception = R"sh(cd "$(dirname "$0")" || exit 1
 cat >recu
+while [ -e retenue ]; do sleep 0.02; done
 [ -e panne ] && exit 1
 n=$(printf %04d $(($(ls | grep -c '\.ps$') + 1)))
 ps2pdf recu recu.pdf && pdftotext -layout recu.pdf "$n.txt" && pdftotext -bbox recu.pdf "$n.xml" && mv recu "$n.ps"
@@ -185,12 +186,14 @@ void Imprimante_essai::Installer() const {
     if (!SetDefaultPrinterW(nom_imprimante)) Echouer("imprimante par défaut");
 }
 
-void Imprimante_essai::Tomber_en_panne(bool en_panne) {
-    if (en_panne)
-        Creer_fichier(dossier_ / L"panne", "");
+void Imprimante_essai::Marquer(const std::wstring & nom, bool present) const {
+    if (present)
+        Creer_fichier(dossier_ / nom, "");
     else
-        Effacer(dossier_ / L"panne");
+        Effacer(dossier_ / nom);
 }
+
+bool Imprimante_essai::Retient() const { return Existe(dossier_ / L"retenue") && Existe(dossier_ / L"recu"); }
 
 std::vector<Travail> Imprimante_essai::Travaux() const {
     std::vector<Travail> travaux;

@@ -24,7 +24,10 @@ public:
     Imprimante_essai & operator=(const Imprimante_essai &) = delete;
 
     // From now on a document fails at its end; or no more.
-    void Tomber_en_panne(bool en_panne);
+    void Tomber_en_panne(bool en_panne) { Marquer(L"panne", en_panne); }
+    // From now on the end of a document lasts; or no more.
+    void Retenir(bool retenir) { Marquer(L"retenue", retenir); }
+    bool Retient() const;  // a document is at its end, which lasts
     // The jobs that came out whole, in their order. Each read costs a conversion.
     std::vector<Travail> Travaux() const;
     std::size_t          Nombre() const;
@@ -32,6 +35,7 @@ public:
 private:
     void Installer_pilote() const;
     void Installer() const;
+    void Marquer(const std::wstring & nom, bool present) const;
 
     Dossier_temporaire dossier_;
 };
