@@ -49,6 +49,14 @@ essayer() {
     return 0
 }
 
+# Wine opens its output anew: what the check said before would be lost.
+executer() {
+    local statut=0
+    lancer_wine 60 "$journaux/sortie" "$@" || statut=$?
+    cat "$journaux/sortie"
+    return $statut
+}
+
 # The captions that the manual quotes, \s{...}, are on the screen.
 legendes_du_manuel() {
     local inconnues
@@ -60,6 +68,20 @@ legendes_du_manuel() {
     [ -z "$inconnues" ]
 }
 
+# The messages that it quotes, \q{...}, are those of the program; "..." and the manual's name stand for any name.
+messages_du_manuel() {
+    local dits inconnus=0 message
+    dits=$(find src -name '*.h' -o -name '*.cpp' | sort | xargs sed -z 's/"[[:space:]]*L"//g' | tr '\0' '\n' |
+        sed -E 's/\\r/ /g; s/  +/ /g')
+    while IFS= read -r message; do
+        grep -q -F -- "$message" <<<"$dits" && continue
+        echo "$message"
+        inconnus=1
+    done < <(sed -n '/^\\A{messages}/,$p' aide/manuel.but | tr '\n' ' ' | grep -o '\\q{[^}]*}' |
+        sed -E "s/^...//; s/\}$//; s/ *('?\.\.\.'?|KORVANE\.HLP) */\n/g" | sed 's/^ *//; s/ *$//' | grep -v -x '[.:]*')
+    return $inconnus
+}
+
 # windows PATH : a path of the prefix as the programs see it.
 windows() {
     local chemin=${1#"$WINEPREFIX/drive_c"}
@@ -69,7 +91,7 @@ windows() {
 
 # controler CHECK DIRECTORY : a check of tests/outils_windows/paquet.cpp on the program in that directory.
 controler() {
-    KORVANE_PAQUET=$(windows "$2") lancer_wine 60 /dev/stdout build/windows-x64/paquet.exe "--gtest_filter=Paquet.$1"
+    KORVANE_PAQUET=$(windows "$2") executer build/windows-x64/paquet.exe "--gtest_filter=Paquet.$1"
 }
 
 decompresser() {
@@ -140,21 +162,17 @@ sur_disque_protege() {
     local statut=0
     mkdir -p "$WINEPREFIX/dosdevices/d:/KORVANE"
     unzip -q "$archive" -d "$WINEPREFIX/dosdevices/d:/KORVANE" && demander proteger d || return 1
-    KORVANE_PAQUET='D:\KORVANE' lancer_wine 60 /dev/stdout build/windows-x64/paquet.exe \
+    KORVANE_PAQUET='D:\KORVANE' executer build/windows-x64/paquet.exe \
         --gtest_filter=Paquet.travaille_sans_pouvoir_ecrire_ses_reglages_et_le_dit || statut=$?
     demander deproteger d
     return $statut
 }
 
-executer() {
-    lancer_wine 60 /dev/stdout "$@"
-}
-
 # The uninstaller goes on in a copy of itself after its first process has ended.
 desinstaller() {
-    executer "$1/desinstaller.exe" /S || return 1
+    executer "$1/desinstaller-KORVANE.exe" /S || return 1
     for _ in $(seq 200); do
-        [ -f "$1/desinstaller.exe" ] || break
+        [ -f "$1/desinstaller-KORVANE.exe" ] || break
         sleep 0.05
     done
     for _ in $(seq 100); do
@@ -165,7 +183,7 @@ desinstaller() {
 }
 
 inscrit() {
-    executer reg query "$cle" /v QuietUninstallString | grep -F "$(windows "$1")\\desinstaller.exe" &&
+    executer reg query "$cle" /v QuietUninstallString | grep -F "$(windows "$1")\\desinstaller-KORVANE.exe" &&
         executer reg query "$cle" /v DisplayVersion | grep -q -E "[0-9]+\.[0-9]+\.[0-9]+" && [ -f "$raccourci" ]
 }
 
@@ -182,7 +200,7 @@ ne_laisse_que_les_fichiers_de_l_utilisateur() {
 remplace_en_gardant_les_reglages() {
     echo ancienne | tee "$installe"/KORVANE.CHM "$installe"/PELMIRA.EXE >"$installe"/LISEZMOI.TXT
     printf '[Options]\r\nCouleur=4\r\n' >"$installe/KORVANE.INI"
-    executer "$installateur" /S && contient_tout "$installe" KORVANE.INI desinstaller.exe &&
+    executer "$installateur" /S && contient_tout "$installe" KORVANE.INI desinstaller-KORVANE.exe &&
         grep -q Couleur=4 "$installe/KORVANE.INI" || return 1
     local fichier
     for fichier in "${fichiers[@]}"; do cmp "$installe/$fichier" "build/paquet/fichiers/$fichier" || return 1; done
@@ -203,13 +221,29 @@ refuse_dans_un_repertoire_reserve() {
     [ "$statut" = 0 ] && [ ! -e "$1/KORVANE" ] && ! executer reg query "$cle" && [ ! -e "$raccourci" ]
 }
 
+# A directory of the user's, with a file that has the name of one of the package's.
+respecte_les_fichiers_d_autrui() {
+    mkdir -p "$1"
+    echo "à moi" >"$1/LISEZMOI.TXT"
+    ! executer "$installateur" /S "/D=$(windows "$1")" && [ "$(cd "$1" && echo *)" = LISEZMOI.TXT ] &&
+        [ "$(cat "$1/LISEZMOI.TXT")" = "à moi" ] && ! executer reg query "$cle"
+}
+
+# The first one goes without taking along what tells of the second.
+se_retire_sans_oublier_l_autre() {
+    executer "$installateur" /S "/D=$(windows "$1")" && inscrit "$1" || return 1
+    executer "$installe/desinstaller-KORVANE.exe" /S "_?=$(windows "$installe")" && contient_tout "$1" desinstaller-KORVANE.exe &&
+        inscrit "$1" && [ ! -e "$installe/KORVANE.EXE" ] && desinstaller "$1" && rien_ne_reste "$1" &&
+        executer "$installateur" /S "/D=$(windows "$installe")"
+}
+
 # What could not be removed can be uninstalled again.
 reste_inscrit_quand_un_fichier_resiste() {
     chmod a-w "$installe"
-    executer "$installe/desinstaller.exe" /S "_?=$(windows "$installe")"
+    executer "$installe/desinstaller-KORVANE.exe" /S "_?=$(windows "$installe")"
     local statut=$?
     chmod u+w "$installe"
-    [ "$statut" = 1 ] && inscrit "$installe" && [ -f "$installe/desinstaller.exe" ]
+    [ "$statut" = 1 ] && inscrit "$installe" && [ -f "$installe/desinstaller-KORVANE.exe" ]
 }
 
 # As a fresh system: no engine for the .HLP, the .CHM belongs to a program, here the recorder.
@@ -223,6 +257,7 @@ sans_moteur() {
 essais_archive() {
     local cle_usb="$WINEPREFIX/drive_c/Clé USB été/mes outils"
     essayer "le manuel ne nomme que ce qui est à l'écran" legendes_du_manuel
+    essayer "il cite les messages à la lettre" messages_du_manuel
     essayer "l'archive est saine" unzip -tq "$archive"
     essayer "elle se décompresse" decompresser "$cle_usb"
     essayer "elle contient les cinq fichiers" contient_tout "$cle_usb"
@@ -246,14 +281,16 @@ essais_archive() {
 essais_installateur() {
     local ailleurs="$WINEPREFIX/drive_c/Programmes à moi/KORVANE"
     essayer "ne s'installe pas dans un répertoire réservé" refuse_dans_un_repertoire_reserve "$WINEPREFIX/drive_c/Reserve"
+    essayer "laisse les fichiers d'autrui" respecte_les_fichiers_d_autrui "$WINEPREFIX/drive_c/Autrui"
     essayer "s'installe en silence" executer "$installateur" /S
-    essayer "installe tous les fichiers" contient_tout "$installe" desinstaller.exe
+    essayer "installe tous les fichiers" contient_tout "$installe" desinstaller-KORVANE.exe
     essayer "s'inscrit dans la liste des programmes et le menu" inscrit "$installe"
     essayer "le programme installé parcourt les disques" controler parcourt_son_propre_repertoire_puis_quitte "$installe"
     essayer "remplace une version plus ancienne" remplace_en_gardant_les_reglages
     essayer "ne se laisse pas remplacer pendant qu'il sert" refuse_pendant "$installateur" /S
-    essayer "ne se laisse pas retirer pendant qu'il sert" refuse_pendant "$installe/desinstaller.exe" \
+    essayer "ne se laisse pas retirer pendant qu'il sert" refuse_pendant "$installe/desinstaller-KORVANE.exe" \
         "/S _?=$(windows "$installe")"
+    essayer "installé deux fois, se retire une fois" se_retire_sans_oublier_l_autre "$WINEPREFIX/drive_c/Seconde"
     essayer "un fichier qui résiste le laisse dans la liste" reste_inscrit_quand_un_fichier_resiste
     echo "à moi" >"$installe/notes.txt"
     essayer "se désinstalle en silence" desinstaller "$installe"
@@ -263,7 +300,7 @@ essais_installateur() {
     # The path comes last and without quotes, as the installer wants it.
     read -r -a mots <<<"$(windows "$ailleurs")"
     essayer "s'installe dans le répertoire demandé" executer "$installateur" /S "/D=${mots[0]}" "${mots[@]:1}"
-    essayer "y installe tous les fichiers" contient_tout "$ailleurs" desinstaller.exe
+    essayer "y installe tous les fichiers" contient_tout "$ailleurs" desinstaller-KORVANE.exe
     essayer "s'en désinstalle" desinstaller "$ailleurs"
     essayer "ne laisse rien" rien_ne_reste "$ailleurs"
 }

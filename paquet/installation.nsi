@@ -1,8 +1,8 @@
 ; Installer of KORVANE, made by package.sh:
 ;   makensis -INPUTCHARSET UTF8 -NOCD -DVERSION=1.0.0 -DFICHIERS=directory -DICONE=korvane.ico -DSORTIE=setup.exe installation.nsi
 ;
-; Silent: setup.exe /S [/D=directory]; desinstaller.exe /S. Status 0 when all is done, 1 when a file is in use or could not be
-; written or removed: then what was installed before is still there, or can still be uninstalled.
+; Silent: setup.exe /S [/D=directory]; desinstaller-KORVANE.exe /S. Status 0 when all is done, 1 when a file is in use, is somebody else's or
+; could not be written or removed: then what was installed before is still there, or can still be uninstalled.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma
@@ -108,8 +108,25 @@ recommencez." /SD IDCANCEL IDRETRY +3
   ${EndIf}
 !macroend
 
+; In a directory that holds no KORVANE yet, a file of one of these names belongs to the user or to another program: it would be
+; replaced now, and removed with KORVANE.
+!macro RESPECTER NOM
+  ${If} ${FileExists} "$INSTDIR\${NOM}"
+    !insertmacro RENONCER "$INSTDIR contient déjà un fichier ${NOM} qui n'est pas celui de KORVANE : choisissez un autre répertoire."
+  ${EndIf}
+!macroend
+
+!macro RESPECTER_FICHIERS_D_AUTRUI
+  ReadRegStr $R2 HKCU "Software\KORVANE" "Dossier"
+  ${If} $R2 != $INSTDIR
+  ${AndIfNot} ${FileExists} "$INSTDIR\KORVANE.EXE"
+    !insertmacro POUR_CHAQUE_FICHIER RESPECTER
+  ${EndIf}
+!macroend
+
 Section "KORVANE"
   SetShellVarContext current
+  !insertmacro RESPECTER_FICHIERS_D_AUTRUI
   !insertmacro ATTENDRE_FICHIERS_LIBRES
   ClearErrors
   SetOutPath "$INSTDIR"
@@ -118,9 +135,9 @@ Section "KORVANE"
   ${EndIf}
   !insertmacro POUR_CHAQUE_FICHIER COPIER
   ClearErrors
-  WriteUninstaller "$INSTDIR\desinstaller.exe"
+  WriteUninstaller "$INSTDIR\desinstaller-KORVANE.exe"
   ${If} ${Errors}
-    !insertmacro RENONCER "$INSTDIR\desinstaller.exe ne peut pas être écrit : KORVANE n'est pas installé."
+    !insertmacro RENONCER "$INSTDIR\desinstaller-KORVANE.exe ne peut pas être écrit : KORVANE n'est pas installé."
   ${EndIf}
   WriteRegStr HKCU "Software\KORVANE" "Dossier" "$INSTDIR"
   WriteRegStr HKCU "${DESINSTALLATION}" "DisplayName" "KORVANE, gestionnaire de fichiers"
@@ -128,8 +145,8 @@ Section "KORVANE"
   WriteRegStr HKCU "${DESINSTALLATION}" "DisplayIcon" "$INSTDIR\KORVANE.EXE"
   WriteRegStr HKCU "${DESINSTALLATION}" "Publisher" "KORVANE"
   WriteRegStr HKCU "${DESINSTALLATION}" "InstallLocation" "$INSTDIR"
-  WriteRegStr HKCU "${DESINSTALLATION}" "UninstallString" '"$INSTDIR\desinstaller.exe"'
-  WriteRegStr HKCU "${DESINSTALLATION}" "QuietUninstallString" '"$INSTDIR\desinstaller.exe" /S'
+  WriteRegStr HKCU "${DESINSTALLATION}" "UninstallString" '"$INSTDIR\desinstaller-KORVANE.exe"'
+  WriteRegStr HKCU "${DESINSTALLATION}" "QuietUninstallString" '"$INSTDIR\desinstaller-KORVANE.exe" /S'
   WriteRegDWORD HKCU "${DESINSTALLATION}" "EstimatedSize" ${TAILLE}
   WriteRegDWORD HKCU "${DESINSTALLATION}" "NoModify" 1
   WriteRegDWORD HKCU "${DESINSTALLATION}" "NoRepair" 1
@@ -145,11 +162,15 @@ Section "Uninstall"
     MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "Voulez-vous aussi supprimer vos réglages (KORVANE.INI) ?" /SD IDNO IDNO +2
     Delete "$INSTDIR\KORVANE.INI"
   ${EndIf}
-  Delete "$SMPROGRAMS\KORVANE.lnk"
   ; The uninstaller and its keys go last: until then it can be started again.
-  Delete "$INSTDIR\desinstaller.exe"
+  Delete "$INSTDIR\desinstaller-KORVANE.exe"
   SetOutPath "$TEMP"
   RMDir "$INSTDIR"
-  DeleteRegKey HKCU "${DESINSTALLATION}"
-  DeleteRegKey HKCU "Software\KORVANE"
+  ; Installed a second time elsewhere, KORVANE is in the menu and in the list from there.
+  ReadRegStr $R2 HKCU "Software\KORVANE" "Dossier"
+  ${If} $R2 == $INSTDIR
+    Delete "$SMPROGRAMS\KORVANE.lnk"
+    DeleteRegKey HKCU "${DESINSTALLATION}"
+    DeleteRegKey HKCU "Software\KORVANE"
+  ${EndIf}
 SectionEnd
