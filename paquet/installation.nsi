@@ -1,8 +1,8 @@
 ; Installer of KORVANE, made by package.sh:
 ;   makensis -INPUTCHARSET UTF8 -NOCD -DVERSION=1.0.0 -DFICHIERS=directory -DICONE=korvane.ico -DSORTIE=setup.exe installation.nsi
 ;
-; Silent: setup.exe /S [/D=directory]; desinstaller-KORVANE.exe /S. Status 0 when all is done, 1 when a file is in use, is somebody else's or
-; could not be written or removed: then what was installed before is still there, or can still be uninstalled.
+; Silent: setup.exe /S [/D=directory]; desinstaller-KORVANE.exe /S. Status 0 when all is done, another one when a file is in use, is
+; somebody else's or could not be written or removed: then what was installed before is still there, or can still be uninstalled.
 Unicode true
 Target amd64-unicode
 SetCompressor /SOLID lzma

@@ -25,6 +25,9 @@ protected:
     void  Demarrer(const wchar_t * repertoire = L"C:\\");
     Fille Principale() const { return {programme->Numero(), L"Gestion_Fichiers"}; }
     void  Quitter();
+    Fille Ouvrir(const wchar_t * commande, const wchar_t * fenetre);
+    void  Verifier_refus(const Fille & fille, const wchar_t * valider, const wchar_t * champ,
+                         const std::wstring & saisie);
     // Runs a program to its end; its exit status.
     static DWORD Executer(const std::wstring & executable, const std::wstring & arguments);
 
@@ -108,23 +111,45 @@ TEST_F(Paquet, ouvre_l_autre_manuel_sans_moteur_pour_le_premier) {
     EXPECT_EQ(Boite_visible(programme->Numero()), nullptr);
 }
 
+// A window that saves says which file it could not write, stays open, and keeps what was typed.
+void Paquet::Verifier_refus(const Fille & fille, const wchar_t * valider, const wchar_t * champ,
+                            const std::wstring & saisie) {
+    fille.Cliquer(valider);
+    const HWND boite = Attendre_boite_visible(programme->Numero(), 5000);
+    ASSERT_NE(boite, nullptr) << Utf8(fille.Nom_fenetre());
+    EXPECT_NE(Lire_boite(boite).texte.find(L"KORVANE.INI"), std::wstring::npos) << Lire_boite(boite);
+    EXPECT_TRUE(Repondre_boite(boite, IDOK));
+    EXPECT_TRUE(fille.Ouverte());
+    EXPECT_EQ(fille.Lire(champ), saisie);
+    EXPECT_FALSE(Existe(dossier + L"\\KORVANE.INI"));
+}
+
+Fille Paquet::Ouvrir(const wchar_t * commande, const wchar_t * fenetre) {
+    Principale().Cliquer(commande);
+    Fille fille(programme->Numero(), fenetre);
+    fille.Attendre_ouverte();
+    return fille;
+}
+
 TEST_F(Paquet, travaille_sans_pouvoir_ecrire_ses_reglages_et_le_dit) {
     Demarrer();
     if (HasFatalFailure()) return;
-    Principale().Cliquer(L"Corbeille");
-    const Fille corbeille(programme->Numero(), L"Corbeille");
-    corbeille.Attendre_ouverte();
+    const Fille options = Ouvrir(L"Options", L"Choix_Options");
+    options.Remplacer(L"Nom_éditeur", L"EDIT.EXE");
+    Verifier_refus(options, L"OK", L"Nom_éditeur", L"EDIT.EXE");
+    options.Cliquer(L"Annule");
+    options.Attendre_fermee();
+    const Fille configuration = Ouvrir(L"Configurer", L"Config_Korvane");
+    configuration.Remplacer(L"Ligne_conf", L"Bloc=C:\\A.EXE");
+    Verifier_refus(configuration, L"Enregistrer", L"Ligne_conf", L"Bloc=C:\\A.EXE");
+    configuration.Cliquer(L"Fin");
+    configuration.Attendre_fermee();
+    const Fille corbeille = Ouvrir(L"Corbeille", L"Corbeille");
     corbeille.Remplacer(L"Taille", L"5000");
-    corbeille.Cliquer(L"Fin");
-    const HWND boite = Attendre_boite_visible(programme->Numero(), 5000);
-    ASSERT_NE(boite, nullptr);
-    EXPECT_NE(Lire_boite(boite).texte.find(L"KORVANE.INI"), std::wstring::npos) << Lire_boite(boite);
-    EXPECT_TRUE(Repondre_boite(boite, IDOK));
-    EXPECT_TRUE(corbeille.Ouverte());
-    EXPECT_EQ(corbeille.Lire(L"Taille"), L"5000");
-    EXPECT_FALSE(Existe(dossier + L"\\KORVANE.INI"));
-    corbeille.Vider(L"Taille");
+    Verifier_refus(corbeille, L"Fin", L"Taille", L"5000");
     Frapper(VK_ESCAPE);
+    corbeille.Attendre_fermee();
+    Quitter();
 }
 
 TEST_F(Paquet, son_visualiseur_montre_un_fichier) {
