@@ -90,6 +90,17 @@ std::string Numerotees(int nombre) {
     return texte;
 }
 
+std::wstring Presse_papiers() {
+    std::wstring colle;
+    EXPECT_TRUE(Attendre([] { return OpenClipboard(nullptr) != FALSE; }));
+    if (const HANDLE memoire = GetClipboardData(CF_UNICODETEXT)) {
+        colle = static_cast<const wchar_t *>(GlobalLock(memoire));
+        GlobalUnlock(memoire);
+    }
+    CloseClipboard();
+    return colle;
+}
+
 }  // namespace
 
 TEST_F(Visionneuse,
@@ -201,19 +212,34 @@ TEST_F(Visionneuse, la_recherche_avance_reprend_au_debut_et_dit_ce_qui_est_intro
     EXPECT_FALSE(Fenetre().Est_actif(L"Arrêter"));
 }
 
-TEST_F(Visionneuse, la_selection_est_copiee_dans_le_presse_papiers) {
+TEST_F(Visionneuse, la_selection_du_clavier_ou_de_la_souris_est_copiee_dans_le_presse_papiers) {
     Creer(L"a.txt", "un\ndeux\ntrois");
-    Lancer_fichiers({L"a.txt"});
+    Creer(L"b.bin", std::string("M\0Z", 3));
+    Lancer_fichiers({L"a.txt", L"b.bin"});
     Frapper_ctrl('A');
     Frapper_ctrl('C');
-    std::wstring colle;
-    ATTENDRE(OpenClipboard(nullptr));
-    if (const HANDLE memoire = GetClipboardData(CF_UNICODETEXT)) {
-        colle = static_cast<const wchar_t *>(GlobalLock(memoire));
-        GlobalUnlock(memoire);
-    }
-    CloseClipboard();
-    EXPECT_EQ(Utf8(colle), "un\r\ndeux\r\ntrois");
+    EXPECT_EQ(Utf8(Presse_papiers()), "un\r\ndeux\r\ntrois");
+    // From the beginning to below the last row, at the left edge: the start of that row.
+    const RECT place = Place_ecran(Vue());
+    Glisser({place.left + 6, place.top + 6}, {place.left + 6, place.top + 200}, Vue());
+    Frapper_ctrl('C');
+    EXPECT_EQ(Utf8(Presse_papiers()), "un\r\ndeux\r\n");
+    Choisir(L"Fichiers", 1);
+    Frapper_ctrl('A');
+    Frapper_ctrl('C');
+    EXPECT_EQ(Utf8(Presse_papiers()), "4D 00 5A");
+}
+
+TEST_F(Visionneuse, une_ligne_d_un_million_de_caracteres_se_parcourt_sans_attendre) {
+    Creer(L"a.txt", std::string(1000000, 'x') + "\r\nfin");
+    Lancer_fichiers({L"a.txt"});
+    const ULONGLONG debut = GetTickCount64();
+    for (const int touche : {VK_RIGHT, VK_END, VK_HOME, VK_NEXT, VK_DOWN}) Frapper(static_cast<WORD>(touche));
+    Fenetre().Cliquer(L"Retour");
+    Fenetre().Cliquer(L"Vue");
+    Frapper_ctrl(VK_END);
+    EXPECT_TRUE(Lu().ends_with(L"x\r\nfin\r\n"));
+    EXPECT_LT(GetTickCount64() - debut, 2000u);
 }
 
 TEST_F(Visionneuse, echap_la_croix_et_le_bouton_la_ferment) {
