@@ -27,6 +27,12 @@ struct Regle_police {
     throw Erreur_execution(Numero::entree_sortie, muet ? DWORD{ERROR_WRITE_FAULT} : code, {});
 }
 
+// Not every call leaves a code when it fails: one that an earlier call left must not pass for its own.
+template <class Appel> void Exiger(Appel && appel) {
+    SetLastError(0);
+    if (!appel()) Lever(GetLastError());
+}
+
 std::wstring Imprimante_par_defaut() {
     // The code that goes with it is that of a missing file.
     DWORD longueur = 0;
@@ -67,7 +73,7 @@ struct Imprimante::Etat {
     void Imprimer_page();
     bool Ajuster_police();
     void Choisir_police(std::size_t colonnes);
-    void Ecrire(const std::wstring & ligne, int y, bool couper) const;
+    void Ecrire(const std::wstring & ligne, int x, int y) const;
     bool Tient() const;
 
     Proprietaire<Regle_police>   police;  // outlives the context that it is selected into
@@ -91,8 +97,11 @@ Imprimante::Etat::Etat(const std::wstring & titre)
 }
 
 void Imprimante::Etat::Choisir_police(std::size_t colonnes) {
-    Proprietaire<Regle_police> nouvelle(Faire_police(Corps_pour(page, colonnes)));
-    if (!nouvelle.Valide() || !SelectObject(contexte.Valeur(), nouvelle.Valeur())) Lever(GetLastError());
+    Proprietaire<Regle_police> nouvelle;
+    Exiger([&] {
+        nouvelle.Remplacer(Faire_police(Corps_pour(page, colonnes)));
+        return nouvelle.Valide() && SelectObject(contexte.Valeur(), nouvelle.Valeur()) != nullptr;
+    });
     police = std::move(nouvelle);
 }
 
@@ -117,27 +126,27 @@ bool Imprimante::Etat::Ajuster_police() {
     }
 }
 
-void Imprimante::Etat::Ecrire(const std::wstring & ligne, int y, bool couper) const {
+void Imprimante::Etat::Ecrire(const std::wstring & ligne, int x, int y) const {
     if (ligne.empty()) return;
-    const RECT place{page.gauche, y, page.gauche + page.largeur, y + page.interligne};
-    if (!ExtTextOutW(contexte.Valeur(), page.gauche, y, couper ? ETO_CLIPPED : 0U, &place, ligne.c_str(),
-                     static_cast<UINT>(ligne.size()), nullptr))
-        Lever(GetLastError());
+    Exiger([&] {
+        return ExtTextOutW(contexte.Valeur(), x, y, 0, nullptr, ligne.c_str(),
+                           static_cast<UINT>(ligne.size()), nullptr) != FALSE;
+    });
 }
 
 void Imprimante::Etat::Imprimer_page() {
     if (lignes.empty()) return;
-    SetLastError(0);
-    if (StartPage(contexte.Valeur()) <= 0) Lever(GetLastError());
-    const bool couper = !Ajuster_police();
+    Exiger([this] { return StartPage(contexte.Valeur()) > 0; });
+    // A printer may have one font alone: the margin goes before the text does.
+    const int x = Ajuster_police() ? page.gauche : 0;
     SetBkMode(contexte.Valeur(), TRANSPARENT);
     int y = page.haut;
     for (const std::wstring & ligne : lignes) {
-        Ecrire(ligne, y, couper);
+        Ecrire(ligne, x, y);
         y += page.interligne;
     }
     lignes.clear();
-    if (EndPage(contexte.Valeur()) <= 0) Lever(GetLastError());
+    Exiger([this] { return EndPage(contexte.Valeur()) > 0; });
     ++pages;
 }
 

@@ -6,7 +6,7 @@
 
 // One document on the default printer, of lines in a fixed-pitch font on the printer's own page size: margins, at least 80
 // columns between them, a new page when the page is full. A page with a longer line is set in a smaller font as a whole, so that
-// nothing of the line is lost and columns stay aligned.
+// nothing of the line is lost and columns stay aligned. Where the printer has no smaller font, the margins give way.
 //
 // Every failure is error 57, with the system's code: other numbers would speak of a disk. It leaves the document unfinished.
 class Imprimante {

@@ -285,14 +285,16 @@ template <class Visite> void Parcourir_importations(Visite && visite) {
     }
 }
 
-void Remplacer(ULONGLONG & entree, std::size_t rang, void * detour) {
+// What was there.
+void * Remplacer(ULONGLONG & entree, void * autre) {
     DWORD avant = 0;
     if (!VirtualProtect(&entree, sizeof entree, PAGE_READWRITE, &avant)) {
         throw std::runtime_error("import table refused");
     }
-    vraies[rang] = reinterpret_cast<void *>(entree);
-    entree       = reinterpret_cast<ULONGLONG>(detour);
+    void * vraie = reinterpret_cast<void *>(entree);
+    entree       = reinterpret_cast<ULONGLONG>(autre);
     VirtualProtect(&entree, sizeof entree, avant, &avant);
+    return vraie;
 }
 
 void Installer() {
@@ -300,7 +302,7 @@ void Installer() {
     if (std::exchange(installee, true)) return;
     Parcourir_importations([detours = Detours()](const char * nom, ULONGLONG & entree) {
         for (std::size_t rang = 0; rang < nombre_appels; ++rang) {
-            if (std::strcmp(nom, appels[rang].nom) == 0) Remplacer(entree, rang, detours[rang]);
+            if (std::strcmp(nom, appels[rang].nom) == 0) vraies[rang] = Remplacer(entree, detours[rang]);
         }
     });
 }
@@ -350,5 +352,15 @@ Constat Jouer(const Consigne & consigne, Fin fin, const std::function<void()> & 
     }
     return jeu.constat;
 }
+
+Detournement::Detournement(const char * nom, void * autre) {
+    Parcourir_importations([&](const char * importe, ULONGLONG & entree) {
+        if (std::strcmp(importe, nom) == 0) entree_ = &entree;
+    });
+    if (entree_ == nullptr) throw std::runtime_error(std::string("not imported: ") + nom);
+    vraie_ = Remplacer(*entree_, autre);
+}
+
+Detournement::~Detournement() { Remplacer(*entree_, vraie_); }
 
 }  // namespace Interception

@@ -48,4 +48,19 @@ std::vector<std::string> Oublies();
 // exceptions stay with `acte`.
 Constat Jouer(const Consigne & consigne, Fin fin, const std::function<void()> & acte);
 
+// While it lives, this program's calls of one imported function go to another one of the same type.
+class Detournement {
+public:
+    template <class Fonction> Detournement(const char * nom, Fonction * autre)
+        : Detournement(nom, reinterpret_cast<void *>(autre)) {}
+    Detournement(const char * nom, void * autre);
+    ~Detournement();
+    Detournement(const Detournement &)             = delete;
+    Detournement & operator=(const Detournement &) = delete;
+
+private:
+    unsigned long long * entree_ = nullptr;
+    void *               vraie_  = nullptr;
+};
+
 }  // namespace Interception

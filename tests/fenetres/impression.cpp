@@ -249,7 +249,8 @@ protected:
     Imprimante_essai imprimante;
 };
 
-TEST_F(Impression_resultats_D, les_fichiers_trouves_s_impriment_chacun_de_son_repertoire) {
+TEST_F(Impression_resultats_D,
+       les_fichiers_trouves_s_impriment_de_leur_repertoire_et_celui_qui_manque_attend) {
     Creer_fichier(L"D:\\un\\A été.txt", "un\r\n");
     Creer_fichier(L"D:\\deux\\b.txt", "deux\r\n");
     Lancer_sur_d();
@@ -260,6 +261,15 @@ TEST_F(Impression_resultats_D, les_fichiers_trouves_s_impriment_chacun_de_son_re
     resultats.Attendre_fermee();
     Attendre_fin_commande();
     ATTENDRE(Se_voit(L"Fichier_sél"));
+    {
+        const Verrou verrou(L"D:\\un\\A été.txt");
+        Cliquer(L"Imprimer");
+        Attendre_boite(gestionnaire, L"Disquette protégée en écriture\rou fichier verrouillé.", avertissement,
+                       IDOK);
+        Attendre_fin_commande();
+    }
+    EXPECT_TRUE(Lire(L"Ligne_message").starts_with(L"   1 fichier sélectionné"))
+        << Utf8(Lire(L"Ligne_message"));
     Cliquer(L"Imprimer");
     Verifier_sans_resultats();
     const auto travaux = imprimante.Travaux();

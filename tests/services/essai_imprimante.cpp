@@ -1,9 +1,11 @@
+#include "coupures/interception.h"
 #include "pilote/imprimante.h"
 #include "platform/imprimante.h"
 #include "services/banc.h"
 
 #include <gtest/gtest.h>
 
+using Interception::Detournement;
 using Pilote::Imprimante_essai;
 using Textes = std::vector<std::string>;
 
@@ -21,6 +23,45 @@ Textes Premieres_lignes(const Textes & pages) {
     Textes lignes;
     for (const std::string & page : pages) lignes.push_back(page.substr(0, page.find('\n')));
     return lignes;
+}
+
+// Calls that fail, with that code or none.
+DWORD code_panne = 0;
+
+template <class Resultat, Resultat echec, class... A> Resultat WINAPI Echouer(A...) {
+    if (code_panne != 0) SetLastError(code_panne);
+    return echec;
+}
+template <auto echec, class... A> void * En_panne(decltype(echec)(WINAPI *)(A...)) {
+    return reinterpret_cast<void *>(&Echouer<decltype(echec), echec, A...>);
+}
+HFONT WINAPI Sans_police(int, int, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
+                         LPCWSTR) {
+    return Echouer<HFONT, nullptr>();
+}
+// A success may leave a code too.
+BOOL WINAPI Mesurer_avec_un_code(HDC, LPCWSTR, int, SIZE * etendue) {
+    *etendue = {};
+    SetLastError(ERROR_FILE_NOT_FOUND);
+    return TRUE;
+}
+HFONT WINAPI Police_unique(int, int, int, int, int, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD, DWORD,
+                           LPCWSTR) {
+    LOGFONTW police{};
+    police.lfHeight         = -41;
+    police.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
+    return CreateFontIndirectW(&police);
+}
+
+// The system's code of the printer's failure, 0 when it does not fail.
+DWORD Code_leve(const std::function<void()> & acte) {
+    try {
+        acte();
+    } catch (const Erreur_execution & erreur) {
+        EXPECT_EQ(57, erreur.numero);
+        return erreur.code_systeme;
+    }
+    return 0;
 }
 
 }  // namespace
@@ -118,4 +159,59 @@ TEST(Impression, l_absence_d_imprimante_se_dit_avec_les_mots_du_systeme) {
         EXPECT_EQ(DWORD{ERROR_INVALID_PRINTER_NAME}, erreur.code_systeme);
         EXPECT_FALSE(erreur.Texte().starts_with(L"Erreur système"));
     }
+}
+
+TEST(Impression, un_appel_qui_echoue_est_l_erreur_57_a_son_propre_code_et_rien_ne_sort) {
+    const struct {
+        const char * nom;
+        void *       autre;
+    } appels[] = {{"StartDocW", En_panne<0>(&StartDocW)},
+                  {"StartPage", En_panne<-1>(&StartPage)},
+                  {"CreateFontW", reinterpret_cast<void *>(&Sans_police)},
+                  {"ExtTextOutW", En_panne<FALSE>(&ExtTextOutW)},
+                  {"EndPage", En_panne<0>(&EndPage)},
+                  {"EndDoc", En_panne<0>(&EndDoc)}};
+    const Imprimante_essai essai;
+    const Detournement     mesure("GetTextExtentPoint32W", &Mesurer_avec_un_code);
+    const auto             imprimer = [] {
+        Imprimante imprimante(titre);
+        imprimante.Ligne(L"texte");
+        imprimante.Terminer();
+    };
+    for (const auto & appel : appels) {
+        const Detournement panne(appel.nom, appel.autre);
+        for (const DWORD code : {ERROR_DISK_FULL, ERROR_INVALID_HANDLE, ERROR_SUCCESS}) {
+            code_panne          = code;
+            const DWORD attendu = code == ERROR_DISK_FULL ? code : ERROR_WRITE_FAULT;
+            EXPECT_EQ(attendu, Code_leve(imprimer)) << appel.nom << " " << code;
+        }
+    }
+    EXPECT_EQ(0u, essai.Nombre());
+    EXPECT_EQ(DWORD{0}, Code_leve(imprimer));
+    EXPECT_EQ(1u, essai.Nombre());
+}
+
+TEST(Impression, un_document_refuse_par_l_utilisateur_n_est_pas_une_erreur) {
+    const Imprimante_essai essai;
+    const Detournement     refus("StartDocW", En_panne<0>(&StartDocW));
+    for (const DWORD code : {ERROR_CANCELLED, ERROR_PRINT_CANCELLED}) {
+        code_panne = code;
+        Imprimante imprimante(titre);
+        EXPECT_TRUE(imprimante.Abandonnee());
+        imprimante.Ligne(L"perdue");
+        imprimante.Terminer();
+    }
+    EXPECT_EQ(0u, essai.Nombre());
+}
+
+TEST(Impression, une_imprimante_a_une_seule_police_perd_sa_marge_avant_son_texte) {
+    const Imprimante_essai essai;
+    const Detournement     seule("CreateFontW", &Police_unique);
+    Imprimante             imprimante(titre);
+    imprimante.Ligne(std::wstring(98, L'x'));
+    imprimante.Terminer();
+    const auto travail = essai.Travaux().at(0);
+    EXPECT_EQ((Textes{std::string(98, 'x') + "\n"}), travail.pages);
+    EXPECT_LE(travail.gauche, 1);
+    EXPECT_LE(travail.droite, 595);
 }

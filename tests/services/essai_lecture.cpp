@@ -1,3 +1,4 @@
+#include "coupures/interception.h"
 #include "platform/lecture.h"
 #include "platform/poignee.h"
 #include "services/banc.h"
@@ -81,6 +82,18 @@ TEST_F(Lectures, ce_qui_s_ajoute_apres_l_ouverture_n_est_pas_lu_et_ce_qui_part_n
                                             nullptr));
     EXPECT_TRUE(SetEndOfFile(coupe.Valeur()));
     EXPECT_EQ(65535u, Lignes(coupee).size());
+}
+
+BOOL WINAPI Lecture_en_panne(HANDLE, LPVOID, DWORD, LPDWORD, LPOVERLAPPED) {
+    SetLastError(ERROR_CRC);
+    return FALSE;
+}
+
+TEST_F(Lectures, une_lecture_qui_echoue_n_est_pas_la_fin_du_texte) {
+    Lecture lecture(Fichier(L"abime", std::string(100000, 'x')), 160);
+    ASSERT_EQ(Avancee::bloc, lecture.Avancer());
+    const Interception::Detournement panne("ReadFile", &Lecture_en_panne);
+    EXPECT_EQ(57, Numero_leve([&] { lecture.Avancer(); }));
 }
 
 TEST_F(Lectures, ce_qui_ne_s_ouvre_pas_dit_pourquoi) {
