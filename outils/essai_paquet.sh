@@ -11,11 +11,22 @@ journaux=$racine/build/resultats/paquet
 fichiers=(KORVANE.CHM KORVANE.EXE KORVANE.HLP LISEZMOI.TXT PELMIRA.EXE)
 passes=0 echoues=0
 
+# What tries the package, on a machine where nothing was tested yet.
+construire() {
+    outils/installer.sh construire paquet executer demonstration && timeout 300 cmake --preset windows-x64 &&
+        timeout 1800 cmake --build --preset windows-x64 --target gardien enregistreur paquet nouveau_venu
+}
+
 # Everything runs with the test drives, and without the privilege of writing anywhere.
 if [ -z "${KORVANE_ESSAI_PAQUET:-}" ]; then
     export KORVANE_ESSAI_PAQUET=1 WINEPREFIX=$racine/build/prefixes/paquet
     unset DISPLAY
     mkdir -p "$journaux"
+    if ! construire </dev/null >"$journaux/construction.txt" 2>&1; then
+        tail -25 "$journaux/construction.txt"
+        echo "0 passed, 1 failed"
+        exit 1
+    fi
     if ! outils/prefixe.sh modele build/prefixe-modele || ! outils/prefixe.sh nouveau build/prefixe-modele "$WINEPREFIX" null; then
         echo "échec : préfixe Wine"
         echo "0 passed, 1 failed"
