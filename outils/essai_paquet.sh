@@ -11,11 +11,22 @@ journaux=$racine/build/resultats/paquet
 fichiers=(KORVANE.CHM KORVANE.EXE KORVANE.HLP LISEZMOI.TXT PELMIRA.EXE)
 passes=0 echoues=0
 
+# What tries the package, on a machine where nothing was tested yet.
+construire() {
+    outils/installer.sh construire paquet executer demonstration && timeout 300 cmake --preset windows-x64 &&
+        timeout 1800 cmake --build --preset windows-x64 --target gardien enregistreur paquet nouveau_venu
+}
+
 # Everything runs with the test drives, and without the privilege of writing anywhere.
 if [ -z "${KORVANE_ESSAI_PAQUET:-}" ]; then
     export KORVANE_ESSAI_PAQUET=1 WINEPREFIX=$racine/build/prefixes/paquet
     unset DISPLAY
     mkdir -p "$journaux"
+    if ! construire </dev/null >"$journaux/construction.txt" 2>&1; then
+        tail -25 "$journaux/construction.txt"
+        echo "0 passed, 1 failed"
+        exit 1
+    fi
     if ! outils/prefixe.sh modele build/prefixe-modele || ! outils/prefixe.sh nouveau build/prefixe-modele "$WINEPREFIX" null; then
         echo "échec : préfixe Wine"
         echo "0 passed, 1 failed"
@@ -237,6 +248,23 @@ se_retire_sans_oublier_l_autre() {
         executer "$installateur" /S "/D=$(windows "$installe")"
 }
 
+# Neither said nor done by halves: the menu cannot be written, then can.
+dit_que_le_menu_resiste() {
+    local menu=${raccourci%/*} installation retrait
+    rm -f "$raccourci"
+    chmod a-w "$menu"
+    executer "$installateur" /S
+    installation=$?
+    chmod u+w "$menu"
+    contient_tout "$installe" KORVANE.INI desinstaller-KORVANE.exe && executer "$installateur" /S && inscrit "$installe" || return 1
+    chmod a-w "$menu"
+    executer "$installe/desinstaller-KORVANE.exe" /S "_?=$(windows "$installe")"
+    retrait=$?
+    chmod u+w "$menu"
+    [ "$installation" = 1 ] && [ "$retrait" = 1 ] && inscrit "$installe" && [ -f "$installe/desinstaller-KORVANE.exe" ] &&
+        executer "$installateur" /S
+}
+
 # What could not be removed can be uninstalled again.
 reste_inscrit_quand_un_fichier_resiste() {
     chmod a-w "$installe"
@@ -290,6 +318,7 @@ essais_installateur() {
     essayer "ne se laisse pas remplacer pendant qu'il sert" refuse_pendant "$installateur" /S
     essayer "ne se laisse pas retirer pendant qu'il sert" refuse_pendant "$installe/desinstaller-KORVANE.exe" \
         "/S _?=$(windows "$installe")"
+    essayer "dit que le menu résiste" dit_que_le_menu_resiste
     essayer "installé deux fois, se retire une fois" se_retire_sans_oublier_l_autre "$WINEPREFIX/drive_c/Seconde"
     essayer "un fichier qui résiste le laisse dans la liste" reste_inscrit_quand_un_fichier_resiste
     echo "à moi" >"$installe/notes.txt"

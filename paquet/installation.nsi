@@ -139,6 +139,7 @@ Section "KORVANE"
   ${If} ${Errors}
     !insertmacro RENONCER "$INSTDIR\desinstaller-KORVANE.exe ne peut pas être écrit : KORVANE n'est pas installé."
   ${EndIf}
+  ClearErrors
   WriteRegStr HKCU "Software\KORVANE" "Dossier" "$INSTDIR"
   WriteRegStr HKCU "${DESINSTALLATION}" "DisplayName" "KORVANE, gestionnaire de fichiers"
   WriteRegStr HKCU "${DESINSTALLATION}" "DisplayVersion" "${VERSION}"
@@ -151,6 +152,9 @@ Section "KORVANE"
   WriteRegDWORD HKCU "${DESINSTALLATION}" "NoModify" 1
   WriteRegDWORD HKCU "${DESINSTALLATION}" "NoRepair" 1
   CreateShortCut "$SMPROGRAMS\KORVANE.lnk" "$INSTDIR\KORVANE.EXE" "" "$INSTDIR\KORVANE.EXE" 0 SW_SHOWNORMAL "" "Gestionnaire de fichiers"
+  ${If} ${Errors}
+    !insertmacro RENONCER "KORVANE est dans $INSTDIR, mais n'a pas pu être ajouté au menu Démarrer ou à la liste des applications."
+  ${EndIf}
 SectionEnd
 
 ; The settings are the user's: they stay unless asked otherwise, and the directory with them. So does whatever the user put there.
@@ -162,14 +166,21 @@ Section "Uninstall"
     MessageBox MB_YESNO|MB_ICONQUESTION|MB_DEFBUTTON2 "Voulez-vous aussi supprimer vos réglages (KORVANE.INI) ?" /SD IDNO IDNO +2
     Delete "$INSTDIR\KORVANE.INI"
   ${EndIf}
+  ; Installed a second time elsewhere, KORVANE is in the menu and in the list from there.
+  ReadRegStr $R2 HKCU "Software\KORVANE" "Dossier"
+  ${If} $R2 == $INSTDIR
+    ClearErrors
+    Delete "$SMPROGRAMS\KORVANE.lnk"
+    ${If} ${Errors}
+    ${OrIf} ${FileExists} "$SMPROGRAMS\KORVANE.lnk"
+      !insertmacro RENONCER "KORVANE ne peut pas être retiré du menu Démarrer. Désinstallez à nouveau."
+    ${EndIf}
+  ${EndIf}
   ; The uninstaller and its keys go last: until then it can be started again.
   Delete "$INSTDIR\desinstaller-KORVANE.exe"
   SetOutPath "$TEMP"
   RMDir "$INSTDIR"
-  ; Installed a second time elsewhere, KORVANE is in the menu and in the list from there.
-  ReadRegStr $R2 HKCU "Software\KORVANE" "Dossier"
   ${If} $R2 == $INSTDIR
-    Delete "$SMPROGRAMS\KORVANE.lnk"
     DeleteRegKey HKCU "${DESINSTALLATION}"
     DeleteRegKey HKCU "Software\KORVANE"
   ${EndIf}
