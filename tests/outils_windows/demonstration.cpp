@@ -1,8 +1,10 @@
-// Plays a visit of the program with a real mouse and real keys: start with the banner, two directories
-// opened, three files copied, one moved. Leaves numbered pictures of the screen and an account in the
-// directory named by the variable KORVANE_DEMONSTRATION. Exit status other than 0 when anything differs from
+// Plays a visit of the program with a real mouse and real keys: start with the banner, two directories opened, files copied, moved,
+// viewed, erased and taken back, the windows of settings, a search of the whole disk. Leaves numbered pictures of the screen and
+// an account in the directory named by the variable KORVANE_DEMONSTRATION. Exit status other than 0 when anything differs from
 // what is expected.
 #include "pilote/constat.h"
+#include "pilote/corbeille.h"
+#include "pilote/fille.h"
 #include "pilote/korvane.h"
 
 #include <gtest/gtest.h>
@@ -14,12 +16,24 @@ using namespace Pilote;
 
 namespace {
 
+constexpr const wchar_t * lettre =
+    L"Chère Hélène,\r\n\r\nVoici le budget de l'été et le rapport de septembre. Les croquis suivront\r\n"
+    L"dès que possible : il me reste à dessiner la façade côté forêt.\r\n\r\nÀ bientôt,\r\nNoël\r\n";
+
 class Visite : public Korvane {
 public:
     Visite() : Korvane(L"C:\\Demonstration") {
-        // As on a first start: no settings at all.
+        // As on a first start: no options at all.
         Ne_pas_regler(L"Options", L"Iconisé");
         Ne_pas_regler(L"Options", L"Répertoire");
+        Regler(L"Corbeille", L"Taille", L"9999");
+        Regler(L"Boutons", L"Bloc-notes", L"NOTEPAD.EXE");
+        Regler(L"Boutons", L"Registre", L"REGEDIT.EXE");
+        Corbeille::Vider();
+    }
+    ~Visite() override {
+        Fermer();
+        Corbeille::Vider();
     }
 
     void Photo(const wchar_t * sujet) {
@@ -27,6 +41,11 @@ public:
         std::swprintf(nom, 100, L"%02d-%ls.bmp", ++photos_, sujet);
         Dormir(300);  // drawing goes on after the last event
         EXPECT_TRUE(Photographier(Environnement(L"KORVANE_DEMONSTRATION") + L"\\" + nom)) << Utf8(nom);
+    }
+    void Installer_visionneuse() {
+        Creer_dossier(dossier / L"programme");
+        EXPECT_TRUE(CopyFileW((Repertoire_essais() + L"\\PELMIRA.EXE").c_str(),
+                              (dossier / L"programme\\PELMIRA.EXE").c_str(), FALSE));
     }
     void Raconter(const std::string & ligne) { compte_rendu_ += ligne + "\r\n"; }
     void Raconter_copie(const std::wstring & nom, std::uint64_t attendue) {
@@ -47,9 +66,18 @@ public:
     void Copier_trois_fichiers();
     void Deplacer_un_fichier();
     void Montrer_l_aide();
+    void Visualiser_un_fichier();
+    void Effacer_un_fichier();
+    void Montrer_la_corbeille();
+    void Montrer_la_configuration();
+    void Montrer_les_options();
+    void Chercher_un_fichier();
     void Quitter();
 
 private:
+    Fille Ouvrir_fille(const std::wstring & bouton, const std::wstring & nom);
+    void  Fermer_fille(const Fille & fille, const std::wstring & bouton);
+
     int         photos_ = 0;
     std::string compte_rendu_;
 };
@@ -115,6 +143,98 @@ void Visite::Montrer_l_aide() {
     ATTENDRE(Place_ecran(Principale()).bottom == hauteur);
 }
 
+Fille Visite::Ouvrir_fille(const std::wstring & bouton, const std::wstring & nom) {
+    Pilote::Cliquer(Controle(bouton));
+    const Fille fille{programme->Numero(), nom};
+    fille.Attendre_ouverte();
+    Ecarter_pointeur();
+    return fille;
+}
+
+void Visite::Fermer_fille(const Fille & fille, const std::wstring & bouton) {
+    fille.Cliquer(bouton);
+    fille.Attendre_fermee();
+    ATTENDRE(GetForegroundWindow() == Principale() && Active(Principale()));
+}
+
+// The viewer is a program of its own: it is known by its title.
+void Visite::Visualiser_un_fichier() {
+    Choisir({L"lettre.txt"});
+    Cliquer(L"Visualiser");
+    const auto visionneuse = [] { return FindWindowW(nullptr, L"lettre.txt - Visionneuse"); };
+    EXIGER(Visible(visionneuse()) && GetForegroundWindow() == visionneuse());
+    EXIGER(Texte(Controle_nomme(visionneuse(), L"Vue")).find(L"Chère Hélène,") != std::wstring::npos);
+    Raconter("Visualisé : " + Utf8(Texte(visionneuse())) + ".");
+    Photo(L"visionneuse");
+    PostMessageW(visionneuse(), WM_CLOSE, 0, 0);
+    EXIGER(visionneuse() == nullptr);
+    SetForegroundWindow(Principale());
+    ATTENDRE(GetForegroundWindow() == Principale());
+    Attendre_fin_commande();
+}
+
+void Visite::Effacer_un_fichier() {
+    Choisir({L"notes.txt"});
+    Cliquer(L"Effacer");
+    ASSERT_NE(Attendre_boite_visible(programme->Numero(), 5000), nullptr);
+    Photo(L"effacer");
+    Attendre_boite(L"Gestionnaire de fichiers",
+                   L"Vous allez EFFACER le fichier 'notes.txt' du répertoire\r" + source +
+                       L"\rConfirmez-vous cette commande ?",
+                   MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2, IDYES);
+    Attendre_fin_commande();
+    EXPECT_FALSE(Existe(Source(L"notes.txt")));
+    Raconter("Effacé : notes.txt, gardé dans la corbeille.");
+}
+
+void Visite::Montrer_la_corbeille() {
+    const Fille corbeille = Ouvrir_fille(L"Corbeille", L"Corbeille");
+    ATTENDRE(corbeille.Entrees(L"Fichier_effacé").size() == 1);
+    corbeille.Choisir(L"Fichier_effacé", {0});
+    Photo(L"corbeille");
+    corbeille.Cliquer(L"Récupérer");
+    ATTENDRE(corbeille.Entrees(L"Fichier_effacé").empty());
+    Fermer_fille(corbeille, L"Fin");
+    EXPECT_EQ(Taille_fichier(Source(L"notes.txt")), 321u);
+    Raconter("Récupéré : notes.txt.");
+}
+
+void Visite::Montrer_la_configuration() {
+    const Fille editeur = Ouvrir_fille(L"Configurer", L"Config_Korvane");
+    EXPECT_EQ(editeur.Entrees(L"Liste_conf").size(), 2u);
+    Photo(L"configuration");
+    Fermer_fille(editeur, L"Fin");
+}
+
+void Visite::Montrer_les_options() {
+    const Fille options = Ouvrir_fille(L"Options", L"Choix_Options");
+    EXPECT_EQ(options.Lire(L"Nom_visualiseur"), L"PELMIRA.EXE");
+    Photo(L"options");
+    Fermer_fille(options, L"Annule");
+}
+
+void Visite::Chercher_un_fichier() {
+    const Fille demande = Ouvrir_fille(L"Chercher", L"Cde_Chercher");
+    demande.Remplacer(L"Fichiers_cherchés", L"budget");
+    Photo(L"chercher");
+    Pilote::Cliquer(demande.Controle(L"OK"));
+    const Fille resultats{programme->Numero(), L"Cherche_Fichier"};
+    EXIGER(resultats.Titre() == L"Sélectionnez le(s) fichier(s)");
+    const std::vector<std::wstring> attendus{L"c:\\demonstration\\destination\\budget.csv",
+                                             L"c:\\demonstration\\source\\budget.csv"};
+    EXPECT_EQ(resultats.Entrees(L"Liste_sél"), attendus);
+    EXPECT_EQ(resultats.Lire(L"Mess_infos"), L"2 fichiers trouvés");
+    resultats.Choisir(L"Liste_sél", {0, 1});
+    Photo(L"resultats");
+    Fermer_fille(resultats, L"OK");
+    ATTENDRE(Se_voit(L"Fichier_sél") && Entrees(L"Fichier_sél") == attendus);
+    Photo(L"trouves");
+    // What leaves the program leaves the files found first.
+    Cliquer(L"Quitter");
+    ATTENDRE(Se_voit(L"Fichier_srce") && Boite_absente());
+    Raconter("Trouvés : " + Utf8(attendus[0]) + " et " + Utf8(attendus[1]) + ".");
+}
+
 void Visite::Quitter() {
     Cliquer(L"Quitter");
     ASSERT_NE(Attendre_boite_visible(programme->Numero(), 5000), nullptr);
@@ -125,16 +245,19 @@ void Visite::Quitter() {
     EXPECT_EQ(programme->Code_de_fin(), 0u);
 }
 
-TEST_F(Visite, demarrer_choisir_copier_deplacer_quitter) {
+TEST_F(Visite, chaque_commande_fait_ce_qu_elle_dit_et_chaque_fenetre_se_montre) {
+    Installer_visionneuse();
     Creer_source(L"budget.csv", 12345, 1);
     Creer_source(L"croquis.dat", 3000000, 2);
     Creer_source(L"été à la mer.txt", 800, 3);
-    Creer_source(L"lettre.txt", 2048, 4);
+    Creer_fichier(Source(L"lettre.txt"), Utf8(lettre));
     Creer_source(L"notes.txt", 321, 5);
     Creer_source(L"rapport.txt", 65536, 6);
-    void (Visite::*const etapes[])() = {&Visite::Montrer_la_banniere,   &Visite::Ouvrir_les_repertoires,
-                                        &Visite::Copier_trois_fichiers, &Visite::Deplacer_un_fichier,
-                                        &Visite::Montrer_l_aide,        &Visite::Quitter};
+    void (Visite::*const etapes[])() = {
+        &Visite::Montrer_la_banniere, &Visite::Ouvrir_les_repertoires, &Visite::Copier_trois_fichiers,
+        &Visite::Deplacer_un_fichier, &Visite::Montrer_l_aide,         &Visite::Visualiser_un_fichier,
+        &Visite::Effacer_un_fichier,  &Visite::Montrer_la_corbeille,   &Visite::Montrer_la_configuration,
+        &Visite::Montrer_les_options, &Visite::Chercher_un_fichier,    &Visite::Quitter};
     for (const auto etape : etapes) {
         (this->*etape)();
         if (HasFatalFailure()) return;
