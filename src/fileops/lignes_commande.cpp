@@ -271,8 +271,8 @@ std::wstring Commande_saisie(std::wstring_view texte) {
 
 std::wstring Ligne_saisie(std::wstring_view commande, const Existe & existe) {
     if (!Contient(commande, L' ')) return std::wstring(commande);
-    const std::size_t  fin       = Fin_programme_saisi(commande, existe);
-    const std::wstring programme = Citer_fichier(commande.substr(0, fin));
+    const std::size_t fin       = Fin_programme_saisi(commande, existe);
+    std::wstring      programme = Citer_fichier(commande.substr(0, fin));
     if (fin == commande.size()) return programme;
     const std::wstring_view arguments = commande.substr(fin + (commande[fin] == L' ' ? 1 : 0));
     const bool              tels      = Contient(arguments, guillemet);
