@@ -2,10 +2,12 @@
 
 #include "app/fenetres.h"
 #include "app/globals.h"
+#include "app/settings.h"
 #include "fileops/lignes_commande.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/chemins.h"
 #include "platform/erreur.h"
+#include "platform/profil.h"
 #include "platform/programmes.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
@@ -52,6 +54,11 @@ void Lancer(const std::wstring & ligne, const std::wstring & repertoire) {
         variables.Fichier_courant = Nom_du_chemin(Programme_de_la_ligne(ligne));
         throw;
     }
+}
+
+std::wstring Programme_de_l_extension(const std::wstring & extension) {
+    if (extension.empty()) return {};
+    return Programme_associe(Lire_profil({}, Section::extensions, extension, L"", tampon_valeur));
 }
 
 std::wstring Chemin_pour(const std::wstring & programme, const std::wstring & chemin) {

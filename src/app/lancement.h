@@ -7,6 +7,9 @@
 // was started, and Fichier_courant names the program that was not.
 void Lancer(const std::wstring & ligne, const std::wstring & repertoire = {});
 
+// The program that WIN.INI associates with an extension, perhaps with parameters of its own; empty without one.
+std::wstring Programme_de_l_extension(const std::wstring & extension);
+
 // A file's path, or its name in the current directory, as a line can carry it to that program: itself, or the disk's short name
 // where the code page cannot hold it, where the command interpreter would take part of it for a variable, or where it is too long
 // for most programs. Empty when there is none: the user has been told, and nothing may be started under another name.

@@ -17,8 +17,6 @@
 #include "toolkit/boites.h"
 
 namespace {
-constexpr unsigned tampon_association = 4096;  // characters, terminator included
-
 constexpr const wchar_t * deprogramme =
     L"Bouton déprogrammé, reprogrammez-le (commande 'Configurer', option 'Boutons') ou relancez KORVANE pour "
     L"supprimer le bouton.";
@@ -36,10 +34,6 @@ void Avertir(const std::wstring & texte) {
     Message_boite(texte, Boite::ok | Boite::arret, variables.Commande_en_cours);
 }
 
-std::wstring Programme_de(const std::wstring & extension) {
-    return Programme_associe(Lire_profil({}, Section::extensions, extension, L"", tampon_association));
-}
-
 // Reading drops the quotes round a value that begins and ends with one, those of two different words as well: "X.EXE" "a b".
 std::wstring Valeur_ecrite(const std::wstring & caption) {
     const std::wstring valeur    = Valeur_cle(Section::boutons, caption);
@@ -51,7 +45,7 @@ std::wstring Valeur_ecrite(const std::wstring & caption) {
 // The line that a button starts; empty when nothing can be started, which the user has been told.
 std::wstring Ligne_de(const Commande_bouton & commande) {
     if (Est_executable(L"." + commande.extension)) return Citer_programme(commande.cible, Programme_existe);
-    const std::wstring programme = Programme_de(commande.extension);
+    const std::wstring programme = Programme_de_l_extension(commande.extension);
     if (programme.empty()) {
         Avertir(Sans_association(commande.extension));
         return {};
@@ -72,7 +66,10 @@ bool Ajouter_parametres(std::wstring & ligne, const std::wstring & cible, const 
 
 void Executer(const Gestion_Fichiers & f, const std::wstring & caption) {
     const std::wstring valeur = Valeur_ecrite(caption);
-    if (valeur.empty()) return Avertir(deprogramme);
+    if (valeur.empty()) {
+        Exiger_lisible(variables.Fichier_ini);
+        return Avertir(deprogramme);
+    }
     const Commande_bouton commande = Lire_bouton(valeur, Programme_existe);
     if (commande.extension.empty()) return Avertir(sans_extension);
     std::wstring ligne = Ligne_de(commande);
@@ -122,7 +119,7 @@ void Bouton_suite_Click() {
     Pieger(L"BOUTON SUITE", [] {
         Gestion_Fichiers & f    = Principale();
         const auto         noms = Noms_distincts(Cles_section(Section::boutons));
-        if (noms.empty()) return;
+        if (noms.empty()) return Exiger_lisible(variables.Fichier_ini);
         Montrer_groupe(f, Groupe_suivant(noms, Noms_montres(f), f.Bouton.size()));
     });
 }

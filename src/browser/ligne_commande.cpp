@@ -8,6 +8,7 @@
 #include "fileops/lignes_commande.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/erreur.h"
+#include "platform/programmes.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
 #include "toolkit/boites.h"
@@ -63,7 +64,7 @@ void Executer(Gestion_Fichiers & f, const std::wstring & commande) {
     Memoriser(f.Ligne_commande, commande);
     const std::wstring repertoire = Repertoire_de_lancement(f.Répertoire_srce.Path());
     if (repertoire.empty()) return;
-    const std::wstring ligne = Ligne_saisie(commande);
+    const std::wstring ligne = Ligne_saisie(commande, Programme_existe);
     if (!Lancer_si_present(ligne, repertoire) && !Lancer_si_present(Avec_com(ligne), repertoire))
         return Signaler_introuvable(f, commande);
     // What is typed next takes the command's place, and Enter runs it again.

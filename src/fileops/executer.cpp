@@ -1,6 +1,7 @@
 #include "app/garde.h"
 #include "app/globals.h"
 #include "app/lancement.h"
+#include "browser/repertoire_lancement.h"
 #include "browser/selection.h"
 #include "fileops/commandes.h"
 #include "fileops/lancement.h"
@@ -26,11 +27,14 @@ void Executer(const Gestion_Fichiers & f) {
     if (!Est_executable(p.Courant().nom)) return Signaler_non_executable();
     const std::wstring chemin = Chemin_a_lancer(variables.Chemin_source);
     if (chemin.empty()) return;
+    // A program may write or erase where it is started: nowhere but there.
+    const std::wstring repertoire = Repertoire_de_lancement(f.Répertoire_srce.Path());
+    if (repertoire.empty()) return;
     const std::wstring invite = Question_parametres(Majuscules(variables.Fichier_courant), Source_montree(f));
     // A blank stands for no parameter: an empty answer is that of a prompt given up.
     const std::wstring parametres = Demander_texte(invite, variables.Commande_en_cours, L" ");
     if (parametres.empty()) return;
-    Lancer(Ligne_execution(chemin, parametres));
+    Lancer(Ligne_execution(chemin, parametres), repertoire);
 }
 
 void Exécuter_Click() { Garder(L"EXECUTER", Executer); }

@@ -51,15 +51,21 @@ wchar_t En_blanc(wchar_t caractere) { return caractere < premier_imprime ? L' ' 
 
 bool Commence_cite(std::wstring_view texte) { return !texte.empty() && texte.front() == guillemet; }
 
-// Where a program's path may end before `texte` does: behind its extension, at a blank. The last one first.
+bool Finit_par_extension(std::wstring_view capitales) {
+    const std::size_t taille = capitales.size();
+    return taille > max_extension && capitales[taille - max_extension - 1] == L'.' &&
+           Parmi(programmes, capitales.substr(taille - max_extension));
+}
+
+// Where a program's path may end before `texte` does: at a blank, behind its extension or before a switch, whose "/" is no
+// part of a name. The last one first.
 std::vector<std::size_t> Fins_possibles(std::wstring_view texte) {
     const std::wstring       capitales = Capitales(texte);
     std::vector<std::size_t> fins;
-    for (std::size_t blanc = capitales.rfind(L' '); blanc != std::wstring::npos && blanc > max_extension;
+    for (std::size_t blanc = capitales.rfind(L' '); blanc != std::wstring::npos && blanc > 0;
          blanc             = capitales.rfind(L' ', blanc - 1)) {
-        const std::size_t debut = blanc - max_extension;
-        if (capitales[debut - 1] != L'.') continue;
-        if (Parmi(programmes, std::wstring_view(capitales).substr(debut, max_extension)))
+        const bool option = blanc + 1 < capitales.size() && capitales[blanc + 1] == L'/';
+        if (option || Finit_par_extension(std::wstring_view(capitales).substr(0, blanc)))
             fins.push_back(blanc);
     }
     return fins;
@@ -82,6 +88,18 @@ std::size_t Longueur_premier_mot(std::wstring_view ligne) {
         return fin == std::wstring_view::npos ? ligne.size() : fin + 1;
     }
     return std::min(ligne.find_first_of(blancs), ligne.size());
+}
+
+// Where the program of a typed command ends: at the first blank, or behind it where the disk knows a program by that path.
+std::size_t Fin_programme_saisi(std::wstring_view commande, const Existe & existe) {
+    const std::size_t mot = Longueur_premier_mot(commande);
+    if (Commence_cite(commande) || !Contient(commande.substr(0, mot), L'\\')) return mot;
+    std::vector<std::size_t> fins = Fins_possibles(commande);
+    if (Est_executable(commande) || Extension_capitales(commande).empty())
+        fins.insert(fins.begin(), commande.size());
+    const auto trouve = std::find_if(fins.begin(), fins.end(),
+                                     [&](std::size_t fin) { return existe(commande.substr(0, fin)); });
+    return trouve == fins.end() ? mot : *trouve;
 }
 
 // The point of a button's value: the first one that does not stand in a directory's name.
@@ -251,13 +269,14 @@ std::wstring Commande_saisie(std::wstring_view texte) {
     return std::wstring(Ebarber(commande));
 }
 
-std::wstring Ligne_saisie(std::wstring_view commande) {
-    const std::size_t fin = Longueur_premier_mot(commande);
-    if (fin == commande.size() || !Contient(commande, L' ')) return std::wstring(commande);
+std::wstring Ligne_saisie(std::wstring_view commande, const Existe & existe) {
+    if (!Contient(commande, L' ')) return std::wstring(commande);
+    const std::size_t fin       = Fin_programme_saisi(commande, existe);
+    std::wstring      programme = Citer_fichier(commande.substr(0, fin));
+    if (fin == commande.size()) return programme;
     const std::wstring_view arguments = commande.substr(fin + (commande[fin] == L' ' ? 1 : 0));
     const bool              tels      = Contient(arguments, guillemet);
-    return std::wstring(commande.substr(0, fin)) + L" " +
-           (tels ? std::wstring(arguments) : Entre_guillemets(arguments));
+    return programme + L" " + (tels ? std::wstring(arguments) : Entre_guillemets(arguments));
 }
 
 std::wstring Avec_com(std::wstring_view ligne) {

@@ -86,5 +86,7 @@ Commande_bouton Lire_bouton(std::wstring_view valeur, const Existe & existe);
 
 // The command line: what stands after the first ">", without the blanks around it; empty without one. Tabs are blanks.
 std::wstring Commande_saisie(std::wstring_view texte);
-std::wstring Ligne_saisie(std::wstring_view commande);  // its arguments in quotes
-std::wstring Avec_com(std::wstring_view ligne);         // the same with ".COM" after the program
+// Its arguments in quotes. The program ends at the first blank; one that is typed with its directory goes on behind it when the
+// disk knows it, and is put in quotes.
+std::wstring Ligne_saisie(std::wstring_view commande, const Existe & existe);
+std::wstring Avec_com(std::wstring_view ligne);  // the same with ".COM" after the program

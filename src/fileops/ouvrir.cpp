@@ -9,24 +9,16 @@
 #include "fileops/lignes_commande.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/fichiers.h"
-#include "platform/profil.h"
 #include "platform/programmes.h"
 #include "platform/textes.h"
 
 namespace {
-constexpr unsigned    longueur_association = 1024;
-constexpr std::size_t cle_la_plus_longue   = 3;  // of the section, as it is edited
-
-// The program that WIN.INI associates with an extension, empty without one.
-std::wstring Associe(const std::wstring & extension) {
-    if (extension.empty()) return {};
-    return Programme_associe(Lire_profil(L"", L"Extensions", extension, L"", longueur_association));
-}
+constexpr std::size_t cle_la_plus_longue = 3;  // of the section, as it is edited
 
 std::wstring Programme_pour(const std::wstring & nom) {
     const std::wstring extension = Extension_capitales(nom);
-    const std::wstring programme = Associe(extension);
-    return programme.empty() ? Associe(extension.substr(0, cle_la_plus_longue)) : programme;
+    const std::wstring programme = Programme_de_l_extension(extension);
+    return programme.empty() ? Programme_de_l_extension(extension.substr(0, cle_la_plus_longue)) : programme;
 }
 
 void Lancer_associe(const Gestion_Fichiers & f, const std::wstring & programme) {

@@ -97,6 +97,22 @@ TEST_F(Boutons, un_bouton_lance_son_programme_une_fois_dans_le_repertoire_de_cel
     EXPECT_TRUE(Boite_absente());
 }
 
+TEST_F(Boutons, un_fichier_de_parametres_verrouille_n_est_pas_pris_pour_une_entree_effacee) {
+    Installer_enregistreur(outils + L"\\X.EXE");
+    for (int i = 1; i <= 8; ++i) Programmer(L"Bouton " + std::to_wstring(i), outils + L"\\X.EXE");
+    Lancer_sur_source();
+    HANDLE verrou = CreateFileW(Fichier_ini().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(verrou, INVALID_HANDLE_VALUE);
+    for (const wchar_t * bouton : {L"Bouton(0)", L"Bouton_suite"}) {
+        Commencer(bouton);
+        Attendre_avertissement(L"Disquette protégée en écriture\rou fichier verrouillé.");
+        EXPECT_EQ(Captions().front(), L"Bouton 1");
+    }
+    CloseHandle(verrou);
+    Cliquer_bouton(L"Bouton 1");
+    Attendre_lance(outils + L"\\X.EXE", outils);
+}
+
 // The associations of the tests, of an extension that nothing else has.
 class Boutons_associations : public Boutons {
 protected:

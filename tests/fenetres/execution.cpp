@@ -142,3 +142,31 @@ TEST_F(Execution, un_programme_qui_n_en_est_pas_un_ou_qui_a_disparu_est_signale)
     Verifier_repos(L"Exécuter");
     EXPECT_EQ(Lignes(0), Textes{});
 }
+
+TEST_F(Execution, dans_un_repertoire_trop_profond_le_programme_part_de_celui_ci_ou_ne_part_pas) {
+    std::wstring profond = source;
+    for (int i = 0; i < 3; ++i) profond += L"\\" + std::wstring(90, static_cast<wchar_t>(L'a' + i));
+    std::wstring fond = source;
+    for (int i = 0; i < 30; ++i) fond += L"\\répertoire" + std::to_wstring(i);
+    const std::string programme_lance = Lire_fichier(Repertoire_essais() + L"\\enregistreur.exe");
+    for (const std::wstring & repertoire : {profond, fond})
+        Creer_fichier(repertoire + L"\\x.exe", programme_lance);
+    Lancer_dans_les_dossiers();
+    Ouvrir(L"srce", profond);
+    Commander(L"Exécuter", {L"x.exe"});
+    EXIGER(Fenetre(L"Saisie") && GetForegroundWindow() == Fenetre(L"Saisie"));
+    Frapper(VK_RETURN);
+    Attendre_fin_commande();
+    const auto lances = Attendre_lances(1);
+    ASSERT_EQ(lances.size(), 1u);
+    wchar_t court[1024] = L"";
+    GetShortPathNameW((L"\\\\?\\" + profond).c_str(), court, 1024);
+    EXPECT_EQ(Utf8(Capitales(lances[0].repertoire)), Utf8(Capitales(court + 4)));
+    Remplacer_texte(L"Chemin_srce", fond);
+    Frapper(VK_RETURN);
+    ATTENDRE(A_le_focus(L"Fichier_srce"));
+    Commander(L"Exécuter", {L"x.exe"});
+    Attendre_avertissement(L"Le chemin du répertoire de travail est trop long pour y lancer une commande.");
+    Verifier_repos(L"Exécuter");
+    EXPECT_EQ(Attendre_lances(1).size(), 1u);
+}

@@ -5,7 +5,8 @@
 using namespace Pilote;
 
 namespace {
-constexpr const wchar_t * variable = L"KORVANE_ENREGISTREMENT";
+constexpr const wchar_t * variable     = L"KORVANE_ENREGISTREMENT";
+constexpr unsigned        delai_depart = 20000;  // milliseconds; a busy machine starts programs slowly
 }  // namespace
 
 Programmes_lances::Programmes_lances() { SetEnvironmentVariableW(variable, enregistrement_.c_str()); }
@@ -42,7 +43,7 @@ std::vector<Programmes_lances::Lance> Programmes_lances::Lire_enregistrement() c
 
 std::vector<Programmes_lances::Lance> Programmes_lances::Attendre_lances(std::size_t nombre) const {
     Reposer(Principale());
-    EXPECT_TRUE(Attendre([&] { return Lire_enregistrement().size() >= nombre; }))
+    EXPECT_TRUE(Attendre([&] { return Lire_enregistrement().size() >= nombre; }, delai_depart))
         << Lire_enregistrement().size() << " programmes lancés au lieu de " << nombre;
     auto lances = Lire_enregistrement();
     EXPECT_LE(lances.size(), nombre) << Utf8(lances.empty() ? std::wstring() : lances.back().ligne);

@@ -25,11 +25,11 @@ void eprouver_depart(const std::wstring & ligne) {
     exiger(!se_termine(sure) && Lance_interprete(sure));
 }
 
-void eprouver_saisie(const std::wstring & texte) {
+void eprouver_saisie(const std::wstring & texte, const Existe & existe) {
     const std::wstring commande = Commande_saisie(L">" + texte);
     exiger(commande.empty() || (commande.front() != L' ' && commande.back() != L' '));
     for (const wchar_t signe : commande) exiger(signe >= L' ');
-    const std::wstring ligne = Ligne_saisie(commande);
+    const std::wstring ligne = Ligne_saisie(commande, existe);
     // Quotes and one blank are all that is added, and nothing that was typed is lost.
     std::wstring tel = sans_guillemets(ligne), saisi = sans_guillemets(commande);
     std::erase(tel, L' ');
@@ -83,7 +83,8 @@ void eprouver_groupe(const std::wstring & un, const std::wstring & deux) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * donnees, std::size_t taille) {
     const std::wstring tout = Texte_libre(donnees, taille);
     const auto [un, deux]   = En_deux(tout);
-    eprouver_saisie(tout);
+    eprouver_saisie(tout, [](std::wstring_view) { return false; });
+    eprouver_saisie(tout, [](std::wstring_view) { return true; });
     eprouver_lot(tout);
     eprouver_noms(un, deux);
     eprouver_noms(un + deux, un);

@@ -42,13 +42,16 @@ TEST(Programmes, un_chemin_avec_des_blancs_est_entre_guillemets) {
 TEST(Programmes, le_disque_dit_ou_finit_leur_nom) {
     const Existe disque =
         Disque({L"NOTEPAD.EXE", L"ED.EXE", L"C:\\Program Files\\Ed\\ED.EXE", L"C:\\mes.bat vieux\\x.exe",
-                L"C:\\deux.bat", L"C:\\deux.bat vieux\\x.exe"});
+                L"C:\\deux.bat", L"C:\\deux.bat vieux\\x.exe", L"edit", L"C:\\Program Files\\Ed\\ED"});
     const std::vector<Cas> cas{
         {L"NOTEPAD.EXE", L"NOTEPAD.EXE"},
         {L"ED.EXE /N", L"ED.EXE /N"},
         {L"C:\\Program Files\\Ed\\ED.EXE", L"\"C:\\Program Files\\Ed\\ED.EXE\""},
         {L"C:\\Program Files\\Ed\\ED.EXE /N x", L"\"C:\\Program Files\\Ed\\ED.EXE\" /N x"},
         {L"C:\\Mes outils\\ed", L"\"C:\\Mes outils\\ed\""},
+        {L"edit /N", L"edit /N"},
+        {L"C:\\Program Files\\Ed\\ED /N", L"\"C:\\Program Files\\Ed\\ED\" /N"},
+        {L"absent /N", L"\"absent /N\""},
         {L"\"C:\\Mes outils\\ed.exe\" /N", L"\"C:\\Mes outils\\ed.exe\" /N"},
         {L"C:\\mes.bat vieux\\x.exe", L"\"C:\\mes.bat vieux\\x.exe\""},
         {L"C:\\mes.bat vieux\\x.exe /N", L"\"C:\\mes.bat vieux\\x.exe\" /N"},
@@ -196,18 +199,37 @@ TEST(Ligne_de_commande, la_commande_suit_l_invite) {
 }
 
 TEST(Ligne_de_commande, les_arguments_sont_entre_guillemets) {
-    Verifier({{L"edit", L"edit"},
-              {L"edit a.txt", L"edit \"a.txt\""},
-              {L"edit a.txt b", L"edit \"a.txt b\""},
-              {L"edit \"a b.txt\"", L"edit \"a b.txt\""},
-              {L"\"C:\\Mes outils\\ed.exe\" a b", L"\"C:\\Mes outils\\ed.exe\" \"a b\""},
-              {L"\"C:\\Mes outils\\ed.exe\"\"a b\"", L"\"C:\\Mes outils\\ed.exe\" \"a b\""},
-              {L"\"C:\\ed.exe\"/N", L"\"C:\\ed.exe\"/N"}},
-             Ligne_saisie);
+    const std::vector<Cas> cas{{L"edit", L"edit"},
+                               {L"edit a.txt", L"edit \"a.txt\""},
+                               {L"edit a.txt b", L"edit \"a.txt b\""},
+                               {L"edit \"a b.txt\"", L"edit \"a b.txt\""},
+                               {L"\"C:\\Mes outils\\ed.exe\" a b", L"\"C:\\Mes outils\\ed.exe\" \"a b\""},
+                               {L"\"C:\\Mes outils\\ed.exe\"\"a b\"", L"\"C:\\Mes outils\\ed.exe\" \"a b\""},
+                               {L"\"C:\\ed.exe\"/N", L"\"C:\\ed.exe\"/N"}};
+    for (const Cas & c : cas)
+        EXPECT_EQ(Ligne_saisie(c.entree, rien), c.attendu) << testing::PrintToString(c.entree);
     Verifier({{L"edit", L"edit.COM"},
               {L"edit \"a.txt\"", L"edit.COM \"a.txt\""},
               {L"\"C:\\Mes outils\\ed\" x", L"\"C:\\Mes outils\\ed.COM\" x"}},
              Avec_com);
+}
+
+TEST(Ligne_de_commande, un_programme_tape_avec_son_repertoire_est_lance_lui_meme_malgre_les_blancs) {
+    const Existe disque = Disque({L"C:\\Mes", L"C:\\Mes outils\\ed.exe", L"C:\\Mes outils\\ed", L"a b.exe",
+                                  L"C:\\ed", L"C:\\ed a.txt"});
+    const std::vector<Cas> cas{
+        {L"C:\\Mes outils\\ed.exe", L"\"C:\\Mes outils\\ed.exe\""},
+        {L"C:\\Mes outils\\ed.exe a b", L"\"C:\\Mes outils\\ed.exe\" \"a b\""},
+        {L"C:\\Mes outils\\ed.exe \"a b\" c", L"\"C:\\Mes outils\\ed.exe\" \"a b\" c"},
+        {L"C:\\Mes outils\\ed", L"\"C:\\Mes outils\\ed\""},
+        {L"C:\\Mes outils\\ed /N", L"\"C:\\Mes outils\\ed\" \"/N\""},
+        // Not a program that the disk knows, or a name alone: the first blank is the end.
+        {L"C:\\Mes outils\\autre.exe", L"C:\\Mes \"outils\\autre.exe\""},
+        {L"C:\\ed a.txt", L"C:\\ed \"a.txt\""},
+        {L"a b.exe", L"a \"b.exe\""},
+    };
+    for (const Cas & c : cas)
+        EXPECT_EQ(Ligne_saisie(c.entree, disque), c.attendu) << testing::PrintToString(c.entree);
 }
 
 TEST(Interprete, une_ligne_le_lance_quand_son_programme_est_un_fichier_de_commandes) {
@@ -248,7 +270,7 @@ TEST(Interprete, une_commande_saisie_n_en_lance_jamais_deux) {
     for (const wchar_t * saisie : {L">\"a.bat\" & calc", L">\"a.bat\"&calc", L">a.bat\t& calc",
                                    L">a.bat \"x\" & calc", L">a.bat x\" & calc \"y", L">a.bat ^\" & calc",
                                    L">\"C:\\b c\\a.bat\"\" & calc", L">a.cmd. & calc", L">a&b.bat x|y"}) {
-        const std::wstring ligne = Ligne_sure(Ligne_saisie(Commande_saisie(saisie)));
+        const std::wstring ligne = Ligne_sure(Ligne_saisie(Commande_saisie(saisie), rien));
         EXPECT_FALSE(se_termine(ligne)) << testing::PrintToString(ligne);
     }
     EXPECT_TRUE(se_termine(L"a.bat & calc"));
