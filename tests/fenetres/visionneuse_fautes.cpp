@@ -68,7 +68,7 @@ TEST_F(Visionneuse, un_fichier_raccourci_juste_avant_d_etre_parcouru_a_aussitot_
     CloseHandle(ecrit);
     Frapper(VK_F3);
     EXPECT_TRUE(Lu().ends_with(L"\r\nzorro\r\n"));
-    EXPECT_TRUE(Pilote::Attendre([&] { return Etat().starts_with(L"490"); })) << Utf8(Etat()) << Utf8(Position());
+    ATTENDRE(Etat().starts_with(L"490"));
     ATTENDRE(Position().ends_with(L" - 100 %") && Position().find(L" sur 490") != std::wstring::npos);
 }
 
