@@ -4,7 +4,6 @@
 #include "app/globals.h"
 #include "app/routines.h"
 #include "fileops/confirmations.h"
-#include "fileops/fin_de_session.h"
 #include "fileops/jauge.h"
 #include "fileops/jauge_montree.h"
 #include "forms/gestion_fichiers.h"
@@ -15,6 +14,7 @@
 #include "platform/transfert.h"
 #include "toolkit/application.h"
 #include "toolkit/boites.h"
+#include "toolkit/fin_de_session.h"
 
 namespace {
 Copie Conclure(Copie copie, int reponse) {

@@ -3,7 +3,6 @@
 #include "browser/selection.h"
 #include "fileops/commandes.h"
 #include "fileops/confirmations.h"
-#include "fileops/fin_de_session.h"
 #include "fileops/jauge.h"
 #include "fileops/jauge_montree.h"
 #include "forms/gestion_fichiers.h"
@@ -12,6 +11,7 @@
 #include "platform/textes.h"
 #include "toolkit/application.h"
 #include "toolkit/boites.h"
+#include "toolkit/fin_de_session.h"
 
 namespace {
 enum class Suite { continuer, terminer };

@@ -1,6 +1,7 @@
 #include "toolkit/remise.h"
 
 #include "platform/windows.h"
+#include "toolkit/application.h"
 #include "toolkit/fenetre.h"
 #include "toolkit/interne.h"
 
@@ -83,6 +84,8 @@ bool Remise::Recevoir(const void * donnees) {
     const auto * recues = static_cast<const COPYDATASTRUCT *>(donnees);
     if (recues->dwData != marque || recues->cbData > longueur_max || recues->cbData % sizeof(wchar_t) != 0)
         return false;
+    // What follows would never be run: the sender opens a window of its own.
+    if (Application::Terminee()) return false;
     const auto * texte = static_cast<const wchar_t *>(recues->lpData);
     try {
         recus_.emplace_back(texte, recues->cbData / sizeof(wchar_t));
@@ -90,7 +93,9 @@ bool Remise::Recevoir(const void * donnees) {
         return false;  // the sender keeps it
     }
     // The sender waits for the answer: what the text leads to comes after it.
-    return PostMessageW(static_cast<HWND>(poignee_), message_suite, 0, 0) != FALSE;
+    if (PostMessageW(static_cast<HWND>(poignee_), message_suite, 0, 0) != FALSE) return true;
+    recus_.pop_back();
+    return false;
 }
 
 void Remise::Transmettre() {

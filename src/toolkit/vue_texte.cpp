@@ -6,6 +6,7 @@
 #include "toolkit/mesure.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 constexpr int echelle = 1 << 24;  // of the vertical scroll bar: its positions have 32 bits, the content's 64
@@ -93,7 +94,7 @@ void Vue_texte::Contenu(Contenu_rangees * contenu, std::uint64_t position) {
     premiere_ = position;
     colonne_  = 0;
     ancre_ = curseur_ = 0;
-    tire_             = false;
+    Lacher();
     Relire();
 }
 
@@ -319,6 +320,13 @@ void Vue_texte::Tirer(int x, int y) {
     InvalidateRect(Poignee(), nullptr, FALSE);
 }
 
+// Ends a drag; false when none is on.
+bool Vue_texte::Lacher() {
+    if (!std::exchange(tire_, false)) return false;
+    if (GetCapture() == Poignee()) ReleaseCapture();
+    return true;
+}
+
 bool Vue_texte::Souris(unsigned message, std::uintptr_t mot, std::intptr_t large) {
     const int x = static_cast<short>(LOWORD(large));
     const int y = static_cast<short>(HIWORD(large));
@@ -333,14 +341,12 @@ bool Vue_texte::Souris(unsigned message, std::uintptr_t mot, std::intptr_t large
         InvalidateRect(Poignee(), nullptr, FALSE);
         return true;
     case WM_MOUSEMOVE:
+        // The button may have gone up while long work kept the mouse away.
+        if ((mot & MK_LBUTTON) == 0) Lacher();
         if (tire_) Tirer(x, y);
         return tire_;
     case WM_LBUTTONUP:
-    case WM_CAPTURECHANGED:
-        if (!tire_) return false;
-        tire_ = false;
-        if (message == WM_LBUTTONUP) ReleaseCapture();
-        return true;
+    case WM_CAPTURECHANGED: return Lacher();
     default: return false;
     }
 }
@@ -388,6 +394,8 @@ bool Vue_texte::Traiter(unsigned message, std::uintptr_t mot, std::intptr_t larg
     case WM_SIZE:
         Mesurer();
         page_connue_ = false;
+        // The lines of a notice are broken elsewhere.
+        InvalidateRect(Poignee(), nullptr, FALSE);
         if (Taille) Taille();
         return false;
     case WM_GETTEXT:

@@ -65,6 +65,7 @@ private:
     bool          Touche_cote(int touche);
     bool          Souris(unsigned message, std::uintptr_t mot, std::intptr_t large);
     void          Tirer(int x, int y);
+    bool          Lacher();
     std::uint64_t Position_sous(int x, int y) const;
     void          Molette(int crans);
     void          Peindre();

@@ -33,7 +33,7 @@ Affichage Affichage_de(const Apparence & apparence) {
 
 Document::Document(const std::wstring & chemin)
     : fichier_(std::make_shared<Lecture_partagee>(chemin)), octets_(Lire_par(fichier_), fichier_->Longueur()),
-      octets_compte_(Autres_octets(2)) {
+      octets_compte_(Autres_octets(2)), suivie_(Longueur()) {
     std::string       debut(Octets::taille_bloc, '\0');
     const std::size_t lus = fichier_->Lire(0, debut.data(), debut.size());
     debut.resize(lus);
@@ -54,6 +54,10 @@ std::uint64_t Document::Debut() const {
     return la_sienne ? apparence_.marque.octets : 0;
 }
 
+std::uint64_t Document::Recaler(std::uint64_t position) const {
+    return position > Debut() ? position - (position - Debut()) % Decodage().Unite() : position;
+}
+
 void Document::Mode(Affichage mode) {
     mode_ = mode;
     Compter();
@@ -66,7 +70,9 @@ void Document::Compter() {
 
 bool Document::Suivre() {
     const std::uint64_t longueur = fichier_->Longueur();
-    if (longueur == octets_.Longueur()) return false;
+    // The rows may have met the new end before.
+    if (longueur == suivie_ && longueur == octets_.Longueur()) return false;
+    suivie_ = longueur;
     octets_.Changer_longueur(longueur);
     octets_compte_.Changer_longueur(longueur);
     Compter();

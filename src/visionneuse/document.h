@@ -24,6 +24,8 @@ public:
     void                 Mode(Affichage mode);
     bool                 Vide() const { return Longueur() <= Debut(); }
     std::uint64_t        Debut() const;  // length of the byte order mark, when it is not shown
+    // Where the unit that holds that byte begins: between the two bytes of UTF-16 nothing can.
+    std::uint64_t Recaler(std::uint64_t position) const;
     // Looks at the file's length; true when it has changed since. Errors 57, 70, 71.
     bool Suivre();
 
@@ -43,6 +45,7 @@ private:
     std::shared_ptr<Lecture_partagee> fichier_;
     Octets                            octets_;
     Octets                            octets_compte_;
+    std::uint64_t                     suivie_;  // length at the last look
     Apparence                         apparence_;
     Affichage                         reconnu_ = Affichage::ansi;
     Affichage                         mode_    = Affichage::ansi;

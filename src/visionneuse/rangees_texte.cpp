@@ -3,7 +3,8 @@
 #include <algorithm>
 
 namespace {
-constexpr unsigned pas_tabulation = 8;
+constexpr unsigned      pas_tabulation    = 8;
+constexpr std::uint64_t morceau_minuscule = 8;  // bytes: a line that is cut does not begin with so few
 
 bool Large(char32_t code) {
     struct Plage {
@@ -50,9 +51,10 @@ std::uint64_t Rangees_texte::Normaliser(std::uint64_t position) const {
     return dans_une_fin ? position - unite : position;
 }
 
-// A few bytes further back than a line goes: the cut before `position` may be shifted by the rest of a character.
+// A few bytes further back than a line goes: the first piece of a long line may be longer by a tiny one, and by the rest of a
+// character that the cut would go through.
 std::optional<std::uint64_t> Rangees_texte::Debut_avant(std::uint64_t position) const {
-    const std::uint64_t recul = ligne_maximale + 8;
+    const std::uint64_t recul = ligne_maximale + 2 * morceau_minuscule;
     for (std::uint64_t p = position;; p -= decodeur_.Unite()) {
         if (Commence_ligne(p)) return std::max(p, debut_);
         if (position - p > recul) return std::nullopt;
@@ -84,9 +86,11 @@ Rangees_texte::Ligne Rangees_texte::Morceau(std::optional<std::uint64_t> ligne,
         multiple -= ligne_maximale;
         debut = decodeur_.Aligner(octets_, multiple);
     }
-    if (ligne && debut <= *ligne + 8) debut = *ligne;
-    debut                   = std::max(debut, debut_);
-    const std::uint64_t fin = decodeur_.Aligner(octets_, (debut / ligne_maximale + 1) * ligne_maximale);
+    if (ligne && debut <= *ligne + morceau_minuscule) debut = *ligne;
+    debut             = std::max(debut, debut_);
+    std::uint64_t fin = decodeur_.Aligner(octets_, (debut / ligne_maximale + 1) * ligne_maximale);
+    if (debut == ligne && fin <= debut + morceau_minuscule)
+        fin = decodeur_.Aligner(octets_, (debut / ligne_maximale + 2) * ligne_maximale);
     if (const auto derniere = Jusqu_a_la_fin(debut, fin - decodeur_.Unite())) return *derniere;
     return {debut, fin, fin};
 }

@@ -105,7 +105,7 @@ void Seance::Suite() {
         rangees_.reset();
         document_.reset();
     }
-    if (!en_attente_.empty()) Ouvrir(std::exchange(en_attente_, {}));
+    if (!en_attente_.empty()) Proteger([this] { Ouvrir(std::exchange(en_attente_, {})); });
 }
 
 void Seance::Recevoir(Remise & remise) {

@@ -7,6 +7,7 @@
 
 #include <exception>
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -52,6 +53,7 @@ private:
     void         Montrer(int rang);
     void         Montrer_contenu(std::uint64_t position, bool nouveau);
     void         Reprendre_contenu();  // the same place, rows made again
+    void         Passer_a(Affichage mode);
     void         Changer_mode();
     void         Basculer_hexa();
     void         Panne(const std::exception & faute);
@@ -73,16 +75,22 @@ private:
     void Imprimer_document(const std::wstring & titre);
     bool Continuer(const std::wstring & travail, std::uint64_t position);  // false: stop
 
-    Fenetre_visionneuse              f;
-    std::vector<std::wstring>        fichiers_;
-    int                              courant_ = -1;
-    std::unique_ptr<Document>        document_;
-    std::unique_ptr<Contenu_rangees> rangees_;
-    Minuterie                        compte_;
-    Minuterie                        veille_;
-    bool                             en_panne_ = false;  // the file shown cannot be read any more
-    bool                             occupee_  = false;
-    bool                             arret_    = false;  // the work in progress is to end
-    bool                             fermer_   = false;  // and the window after it
-    std::vector<std::wstring>        en_attente_;        // files that came meanwhile
+    // Names that differ by case alone are the same file's.
+    struct Sans_casse {
+        bool operator()(const std::wstring & a, const std::wstring & b) const;
+    };
+
+    Fenetre_visionneuse                     f;
+    std::vector<std::wstring>               fichiers_;
+    std::map<std::wstring, int, Sans_casse> rangs_;  // of the files in the list
+    int                                     courant_ = -1;
+    std::unique_ptr<Document>               document_;
+    std::unique_ptr<Contenu_rangees>        rangees_;
+    Minuterie                               compte_;
+    Minuterie                               veille_;
+    bool                                    en_panne_ = false;  // the file shown cannot be read any more
+    bool                                    occupee_  = false;
+    bool                                    arret_    = false;  // the work in progress is to end
+    bool                                    fermer_   = false;  // and the window after it
+    std::vector<std::wstring>               en_attente_;        // files that came meanwhile
 };

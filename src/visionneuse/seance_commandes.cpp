@@ -76,6 +76,7 @@ bool Seance::Continuer(const std::wstring & travail, std::uint64_t position) {
     const double part = longueur == 0 ? 1 : static_cast<double>(position) / static_cast<double>(longueur);
     Dire_etat(travail + L" - " + std::to_wstring(static_cast<unsigned>(part * 100)) + L" %");
     Application::Laisser_passer();
+    if (Application::Terminee()) arret_ = true;
     return !arret_;
 }
 

@@ -7,7 +7,6 @@
 #include "visionneuse/libelles.h"
 #include "visionneuse/seance.h"
 
-#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -20,17 +19,19 @@ std::wstring Entree_de(const std::wstring & chemin) {
 }
 }  // namespace
 
+bool Seance::Sans_casse::operator()(const std::wstring & a, const std::wstring & b) const {
+    return Comparer_sans_casse(a, b) < 0;
+}
+
 // A path that cannot be completed is listed as it was given: showing it will say what is wrong with it.
 int Seance::Ajouter(const std::wstring & chemin) {
     std::wstring complet = chemin;
     Tenter([&] { complet = Chemin_complet(chemin); });
-    const auto connu = std::find_if(fichiers_.begin(), fichiers_.end(), [&](const std::wstring & fichier) {
-        return Comparer_sans_casse(fichier, complet) == 0;
-    });
-    if (connu != fichiers_.end()) return static_cast<int>(connu - fichiers_.begin());
+    const auto [place, nouveau] = rangs_.try_emplace(complet, static_cast<int>(fichiers_.size()));
+    if (!nouveau) return place->second;
     fichiers_.push_back(complet);
     f.Fichiers.AddItem(Entree_de(complet));
-    return static_cast<int>(fichiers_.size()) - 1;
+    return place->second;
 }
 
 void Seance::Ouvrir(const std::vector<std::wstring> & fichiers) {
@@ -97,10 +98,16 @@ void Seance::Reprendre_contenu() {
     if (document_ && !en_panne_) Montrer_contenu(f.Vue.Premiere(), false);
 }
 
-void Seance::Changer_mode() {
-    if (!Utilisable()) return;
-    document_->Mode(static_cast<Affichage>(f.Affichage.ListIndex()));
+// What is selected is made of whole characters in the new mode too: from there the search goes on.
+void Seance::Passer_a(Affichage mode) {
+    document_->Mode(mode);
+    const Plage_octets choisie = f.Vue.Selection();
+    f.Vue.Selectionner({document_->Recaler(choisie.debut), document_->Recaler(choisie.fin)});
     Reprendre_contenu();
+}
+
+void Seance::Changer_mode() {
+    if (Utilisable()) Passer_a(static_cast<Affichage>(f.Affichage.ListIndex()));
 }
 
 void Seance::Basculer_hexa() {
@@ -108,8 +115,7 @@ void Seance::Basculer_hexa() {
     const bool      hexa = document_->Mode() == Affichage::hexa;
     const Affichage texte =
         document_->Mode_reconnu() == Affichage::hexa ? Affichage::ansi : document_->Mode_reconnu();
-    document_->Mode(hexa ? texte : Affichage::hexa);
-    Reprendre_contenu();
+    Passer_a(hexa ? texte : Affichage::hexa);
 }
 
 // The other files stay usable; this one may be read again with F5.
@@ -152,14 +158,13 @@ void Seance::Dire_position() {
 void Seance::Compter_lignes() {
     if (!Utilisable()) return;
     Index_lignes * lignes = document_->Lignes();
-    bool           reste  = false;
-    // What cannot be read is told where it is shown.
-    Tenter([&] {
+    bool           reste  = lignes != nullptr && !lignes->Complet();
+    // What cannot be read is told where it is shown. It is not tried again: each attempt may take the medium seconds.
+    const bool lisible = Tenter([&] {
         const std::uint64_t fin = Horloge_ms() + duree_compte;
-        reste                   = lignes != nullptr && !lignes->Complet();
         while (reste && Horloge_ms() < fin) reste = lignes->Avancer(tranche_compte);
     });
-    if (reste) return;
+    if (reste && lisible) return;
     compte_.Enabled(false);
     Dire_position();
 }

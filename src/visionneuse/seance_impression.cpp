@@ -3,6 +3,7 @@
 #include "platform/imprimante.h"
 #include "platform/textes.h"
 #include "toolkit/boites.h"
+#include "toolkit/fin_de_session.h"
 #include "visionneuse/seance.h"
 
 #include <algorithm>
@@ -47,13 +48,16 @@ void Seance::Imprimer_document(const std::wstring & titre) {
     const Occupation occupation(*this);
     Octets           octets = document_->Autres_octets();
     Imprimante       imprimante(titre);
-    const auto       rangees  = document_->Rangees(octets, static_cast<unsigned>(imprimante.Colonnes()));
-    std::uint64_t    position = rangees->Debut();
+
+    const Abandon_en_fin_de_session abandon([&imprimante] { imprimante.Abandonner(); });
+
+    const auto    rangees  = document_->Rangees(octets, static_cast<unsigned>(imprimante.Colonnes()));
+    std::uint64_t position = rangees->Debut();
     while (position < rangees->Longueur() && !imprimante.Abandonnee()) {
         Rangee rangee = rangees->Lire(position);
         std::erase(rangee.texte, suite_de_caractere);
         imprimante.Ligne(rangee.texte);
-        position = rangee.suite;
+        position = std::max(rangee.suite, position + 1);
         if (!Continuer(L"Impression", position)) return;
     }
     // Given up by the user when the printer asked where to put it.

@@ -148,6 +148,22 @@ TEST_F(Visionneuse, le_codage_se_change_dans_la_liste_et_l_hexadecimal_par_F4) {
     EXPECT_EQ(Utf8(Lu()), Utf8(L"é\r\n"));
 }
 
+TEST_F(Visionneuse, la_recherche_reprend_en_UTF_16_d_ou_elle_en_etait_en_hexadecimal) {
+    std::string texte = utf16_grand + std::string("\0\n", 2);
+    for (const char lettre : std::string("zorro")) texte += std::string(1, '\0') + lettre;
+    Creer(L"a.txt", texte);
+    Lancer_fichiers({L"a.txt"});
+    Frapper(VK_F4);
+    // The second byte of a character.
+    Chercher(L"t");
+    Frapper(VK_F4);
+    EXPECT_EQ(Utf8(Lu()), Utf8(L"été\r\nfin\r\nzorro\r\n"));
+    Chercher(L"zorro");
+    EXPECT_EQ(Boite_visible(programme->Numero()), nullptr);
+    Frapper(VK_F3);
+    EXPECT_EQ(Utf8(Etat()), Utf8(L"Recherche reprise au début du fichier."));
+}
+
 TEST_F(Visionneuse, les_touches_parcourent_le_fichier_et_la_position_se_lit_en_bas) {
     Creer(L"long.txt", Numerotees(500));
     Lancer_fichiers({L"long.txt"});
@@ -228,6 +244,27 @@ TEST_F(Visionneuse, la_selection_du_clavier_ou_de_la_souris_est_copiee_dans_le_p
     Frapper_ctrl('A');
     Frapper_ctrl('C');
     EXPECT_EQ(Utf8(Presse_papiers()), "4D 00 5A");
+}
+
+TEST_F(Visionneuse, un_glisser_que_le_fichier_relu_interrompt_rend_la_souris_aux_autres_controles) {
+    Creer(L"a.txt", Numerotees(50));
+    Lancer_fichiers({L"a.txt"});
+    const DWORD fil     = GetWindowThreadProcessId(Vue(), nullptr);
+    const auto  capture = [fil] {
+        GUITHREADINFO etat{};
+        etat.cbSize = sizeof etat;
+        EXPECT_TRUE(GetGUIThreadInfo(fil, &etat));
+        return etat.hwndCapture;
+    };
+    PostMessageW(Vue(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 20));
+    EXIGER(capture() == Vue());
+    Frapper(VK_F5);
+    EXPECT_EQ(capture(), nullptr);
+    // The button went up where the window was not told.
+    PostMessageW(Vue(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(20, 20));
+    EXIGER(capture() == Vue());
+    PostMessageW(Vue(), WM_MOUSEMOVE, 0, MAKELPARAM(60, 60));
+    ATTENDRE(capture() == nullptr);
 }
 
 TEST_F(Visionneuse, une_ligne_d_un_million_de_caracteres_se_parcourt_sans_attendre) {

@@ -54,6 +54,53 @@ TEST_F(Visionneuse, ce_qui_ne_peut_etre_lu_est_dit_dans_la_vue_et_les_autres_fic
     EXPECT_TRUE(Montre(L"x\r\n"));
 }
 
+// Whoever meets the new end first, the window tells of it.
+TEST_F(Visionneuse, un_fichier_raccourci_juste_avant_d_etre_parcouru_a_aussitot_sa_nouvelle_taille) {
+    Creer(L"a.txt", std::string(490000, '\n') + "zorro" + std::string(510000, '\n'));
+    Lancer_fichiers({L"a.txt"});
+    ATTENDRE(Position().starts_with(L"Ligne 1 sur "));
+    Fenetre().Remplacer(L"Recherche", L"zorro");
+    const HANDLE ecrit = CreateFileW(Chemin(L"a.txt").c_str(), GENERIC_WRITE,
+                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                     OPEN_EXISTING, 0, nullptr);
+    SetFilePointer(ecrit, 490005, nullptr, FILE_BEGIN);
+    SetEndOfFile(ecrit);
+    CloseHandle(ecrit);
+    Frapper(VK_F3);
+    EXPECT_TRUE(Lu().ends_with(L"\r\nzorro\r\n"));
+    ATTENDRE(Etat().starts_with(L"490"));
+    ATTENDRE(Position().ends_with(L" - 100 %") && Position().find(L" sur 490") != std::wstring::npos);
+}
+
+TEST_F(Visionneuse, des_noms_de_toute_sorte_et_de_toute_longueur_s_ouvrent) {
+    const std::wstring long_dossier = Chemin(L"100% d'\u00E9t\u00E9 & fils") + L"\\" +
+                                      std::wstring(120, L'l') + L"\\" + std::wstring(120, L'm');
+    const std::wstring noms[] = {Chemin(L"\u6F22\u5B57 \U0001F600.txt"), Chemin(L"a & b %TEMP% 'c' ^.txt"),
+                                 Chemin(L"ovl"), long_dossier + L"\\au bout.txt"};
+    Creer_dossier(long_dossier);
+    std::wstring arguments = L"ovl";
+    for (const std::wstring & nom : noms) {
+        Creer_fichier(nom, "contenu");
+        arguments += L" \"" + nom + L"\"";
+    }
+    Lancer(arguments);
+    for (int rang = 0; rang < static_cast<int>(std::size(noms)); ++rang) {
+        if (rang > 0) Choisir(L"Fichiers", rang);
+        EXPECT_EQ(Utf8(Lu()), "contenu\r\n") << Utf8(noms[rang]);
+        EXPECT_EQ(Utf8(Fenetre().Titre()),
+                  Utf8(noms[rang].substr(noms[rang].rfind(L'\\') + 1) + L" - Visionneuse"));
+    }
+}
+
+TEST_F(Visionneuse, des_milliers_de_fichiers_sont_dans_la_liste_sans_attendre) {
+    std::wstring arguments;
+    for (int i = 0; i < 6000; ++i) arguments += L" " + std::to_wstring(i);
+    const ULONGLONG debut = GetTickCount64();
+    Lancer(arguments + L" 7 8 9");
+    EXPECT_LT(GetTickCount64() - debut, 3000u);
+    EXPECT_EQ(Nombre_entrees(Fenetre().Controle(L"Fichiers")), 6000);
+}
+
 TEST_F(Visionneuse, sans_fichier_elle_attend_et_un_fichier_absent_revenu_se_relit_par_F5) {
     Lancer(L"");
     EXPECT_EQ(Utf8(Fenetre().Titre()), "Visionneuse");

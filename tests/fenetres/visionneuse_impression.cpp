@@ -23,6 +23,22 @@ TEST_F(Visionneuse, un_texte_s_imprime_comme_il_est_montre_et_l_hexadecimal_de_m
     EXPECT_NE(travaux[1].pages[0].find(" 4D 5A 00 "), std::string::npos) << travaux[1].pages[0];
 }
 
+TEST_F(Visionneuse, la_fin_de_session_pendant_une_impression_ne_laisse_sortir_aucune_page) {
+    const Imprimante_essai imprimante;
+    std::string            texte;
+    for (int i = 0; i < 60000; ++i) texte += "ligne " + std::to_string(i) + "\r\n";
+    Creer(L"long.txt", texte);
+    Lancer_fichiers({L"long.txt"});
+    Pilote::Cliquer(Fenetre().Controle(L"Imprimer"));
+    const HWND boite = Attendre_boite_visible(programme->Numero(), 10000);
+    ASSERT_NE(boite, nullptr);
+    EXPECT_TRUE(Repondre_boite(boite, IDYES));
+    ATTENDRE(Etat().starts_with(L"Impression - ") && Etat() != L"Impression - 0 %");
+    PostMessageW(Fenetre().Fenetre(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_TRUE(programme->Attendre_fin(5000));
+    EXPECT_EQ(imprimante.Nombre(), 0u);
+}
+
 TEST_F(Visionneuse, une_impression_peut_etre_arretee_et_son_echec_est_dit) {
     Imprimante_essai imprimante;
     std::string      texte;

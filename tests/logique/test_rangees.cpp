@@ -13,8 +13,10 @@ constexpr std::uint64_t ligne_maximale = Rangees_texte::ligne_maximale;
 
 std::vector<Rangee> Toutes(Contenu_rangees & contenu) {
     std::vector<Rangee> rangees;
-    for (std::uint64_t p = contenu.Debut(); p < contenu.Longueur(); p = rangees.back().suite)
+    for (std::uint64_t p = contenu.Debut(); p < contenu.Longueur(); p = rangees.back().suite) {
         rangees.push_back(contenu.Lire(p));
+        if (rangees.back().suite <= p) break;  // it would never end
+    }
     return rangees;
 }
 
@@ -147,6 +149,20 @@ TEST(Rangees, toute_position_d_une_rangee_donne_la_meme) {
             Verifier_coherence(octets, Codage::utf16_petit, 2, colonnes);
         }
     }
+}
+
+TEST(Rangees, une_longue_ligne_qui_commence_pres_d_une_coupure_est_montree_jusqu_au_bout) {
+    for (const unsigned avant : {9U, 8U, 5U, 1U}) {
+        const std::string octets = std::string(ligne_maximale - avant - 1, 'a') + '\n' +
+                                   std::string(ligne_maximale + 100, 'x') + "\nfin";
+        ASSERT_NO_FATAL_FAILURE(Verifier_coherence(octets, Codage::ansi, 0, 0)) << avant;
+        EXPECT_EQ(Textes(octets).back(), L"fin") << avant;
+    }
+    // The cut goes through a character of four bytes.
+    std::string octets(ligne_maximale - 6, 'a');
+    octets.replace(octets.size() - 2, 2, "\n\0"s);
+    while (octets.size() < 2 * ligne_maximale + 100) octets += "\x3D\xD8\x00\xDE"s;
+    ASSERT_NO_FATAL_FAILURE(Verifier_coherence(octets, Codage::utf16_petit, 0, 0));
 }
 
 TEST(Rangees_hexa, une_rangee_montre_seize_octets_et_la_derniere_ce_qui_reste) {
