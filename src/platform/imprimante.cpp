@@ -1,5 +1,6 @@
 #include "platform/imprimante.h"
 
+#include "platform/bibliotheques.h"
 #include "platform/erreur.h"
 #include "platform/proprietaire.h"
 #include "platform/windows.h"
@@ -34,6 +35,7 @@ template <class Appel> void Exiger(Appel && appel) {
 }
 
 std::wstring Imprimante_par_defaut() {
+    Exiger_bibliotheque(L"winspool.drv");
     // The code that goes with it is that of a missing file.
     DWORD longueur = 0;
     GetDefaultPrinterW(nullptr, &longueur);

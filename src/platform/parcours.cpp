@@ -12,20 +12,17 @@ bool Point_ou_deux(const wchar_t * nom) {
     return nom[0] == L'.' && (nom[1] == L'\0' || (nom[1] == L'.' && nom[2] == L'\0'));
 }
 
-std::wstring Filtre(const std::wstring & repertoire, std::wstring_view masque) {
+std::wstring Filtre_de_tout(const std::wstring & repertoire) {
     // The names of the path are names: a wildcard among them would list something else.
     if (repertoire.empty() ||
         repertoire.find_first_of(L"?*", repertoire.starts_with(L"\\\\?\\") ? 4 : 0) != std::wstring::npos)
         Lever_code(ERROR_PATH_NOT_FOUND, Acte::lister, repertoire);
     std::wstring filtre = Forme_longue(repertoire);
     if (filtre.back() != L'\\' && filtre.back() != L'/') filtre += L'\\';
-    // A directory short enough to go without the long-path prefix may not be so with its mask.
-    const bool tient = filtre.size() + masque.size() < MAX_PATH;
-    return filtre += tient ? masque : L"*";
+    return filtre += L'*';
 }
 
-// Where nothing answers to the mask, and in an empty root, which has no entry at all, not even ".", the answer is
-// "file not found", as it may be for a missing directory.
+// An empty root has no entry at all, not even ".", and answers "file not found" as a missing directory may.
 bool Vide(DWORD code, const std::wstring & repertoire) {
     return (code == ERROR_FILE_NOT_FOUND || code == ERROR_NO_MORE_FILES) && Repertoire_existe(repertoire);
 }
@@ -51,9 +48,8 @@ Entree_vue Decrire(const WIN32_FIND_DATAW & trouve) {
 
 }  // namespace
 
-bool Enumerer(const std::wstring & repertoire, const std::function<bool(const Entree_vue &)> & visite,
-              std::wstring_view masque) {
-    const std::wstring      filtre = Filtre(repertoire, masque);
+bool Enumerer(const std::wstring & repertoire, const std::function<bool(const Entree_vue &)> & visite) {
+    const std::wstring      filtre = Filtre_de_tout(repertoire);
     WIN32_FIND_DATAW        trouve;
     const Poignee_recherche recherche(FindFirstFileExW(
         filtre.c_str(), FindExInfoBasic, &trouve, FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH));

@@ -23,10 +23,8 @@ struct Fichier_trouve {
 
 // Visits what one directory holds, "." and ".." left out, in the order of the system, and keeps nothing of it:
 // what a walk of a whole disk costs beyond the system's own work is what its visits do. False from a visit ends
-// the enumeration; returns false then. `masque`, a pattern of the system's own without "\\", spares visits of what does
-// not answer to it, but never promises it. Errors 76 (no such directory), 70 (cannot be read), 71, 68.
-bool Enumerer(const std::wstring & repertoire, const std::function<bool(const Entree_vue &)> & visite,
-              std::wstring_view masque = L"*");
+// the enumeration; returns false then. Errors 76 (no such directory), 70 (cannot be read), 71, 68.
+bool Enumerer(const std::wstring & repertoire, const std::function<bool(const Entree_vue &)> & visite);
 
 // What tells the medium in a drive ("C:") from another one: its serial number and its label. Empty without a medium.
 std::wstring Identite_support(const std::wstring & unite);

@@ -41,17 +41,6 @@ bool Modele_correct(std::wstring_view modele) {
     return modele.find_first_not_of(L"*. ") != modele.npos && Motifs::Valide(modele);
 }
 
-std::wstring Requete(std::wstring_view modele) {
-    constexpr std::size_t   longueur_utile = 32;
-    const std::wstring_view debut = modele.substr(0, std::min(modele.find_first_of(L"*?."), longueur_utile));
-    // Without a "*" of its own the pattern is both: what names begin with may be all of it but a final point.
-    const std::size_t joker = modele.find_last_of(L"*?");
-    std::wstring_view fin   = modele.substr(joker == modele.npos ? 0 : joker + 1);
-    if (fin.size() > longueur_utile) fin.remove_prefix(fin.size() - longueur_utile);
-    if (joker == modele.npos || fin.find_last_not_of(L". ") + 1 != fin.size()) fin = {};
-    return std::wstring(debut) + L"*" + std::wstring(fin);
-}
-
 bool Texte_conforme(std::wstring_view texte, std::wstring_view modele) {
     return conforme(texte, modele, [](wchar_t a, wchar_t b) { return a == b; });
 }

@@ -12,9 +12,6 @@ std::wstring Completer_modele(std::wstring_view saisi);
 // A completed pattern that names something: more than "*", points and blanks ("?" counts), or "*.", the files
 // without extension; no character that a name cannot hold.
 bool Modele_correct(std::wstring_view modele);
-// What to ask the system for: all the names that the completed pattern accepts, and few others. Its own wildcards differ from
-// system to system in what they do around points: only "*" is left, between what the names begin and end with.
-std::wstring Requete(std::wstring_view modele);
 // "*" any run, "?" one character, anything else itself, case included: a text as any other, not a file name.
 bool Texte_conforme(std::wstring_view texte, std::wstring_view modele);
 

@@ -38,13 +38,12 @@ Fichier_trouve Trouve(const std::wstring & repertoire, const Entree_vue & entree
 
 Bilan_recherche Rechercher(const Demande_recherche & demande, const Reception & trouver,
                            const std::function<bool()> & continuer) {
-    const Arbre &      arbre = Arborescence();
-    const Filtre       filtre(demande);
-    const std::wstring requete = Requete(demande.modele);
-    Bilan_recherche    bilan;
-    std::wstring       repertoire;
-    std::size_t        vus     = 0;
-    const auto         visiter = [&](const Entree_vue & entree) {
+    const Arbre &   arbre = Arborescence();
+    const Filtre    filtre(demande);
+    Bilan_recherche bilan;
+    std::wstring    repertoire;
+    std::size_t     vus     = 0;
+    const auto      visiter = [&](const Entree_vue & entree) {
         if (filtre.Retient(entree)) trouver(Trouve(repertoire, entree));
         return ++vus % entre_deux_regards != 0 || continuer();
     };
@@ -52,7 +51,8 @@ Bilan_recherche Rechercher(const Demande_recherche & demande, const Reception & 
         if (!continuer()) return bilan;
         repertoire = arbre.Chemin(i);
         try {
-            if (!Enumerer(repertoire, visiter, requete)) return bilan;
+            // All names are asked for: to a directory or a server that tells case apart, a pattern would mean fewer of them.
+            if (!Enumerer(repertoire, visiter)) return bilan;
         } catch (const Erreur_execution & erreur) {
             if (Repertoire_saute(erreur, i)) ++bilan.sautes;
         }

@@ -1,5 +1,6 @@
 #include "toolkit/application.h"
 
+#include "platform/bibliotheques.h"
 #include "platform/systeme.h"
 #include "platform/windows.h"
 #include "toolkit/controles.h"
@@ -83,6 +84,7 @@ void Abandonner_pour_fin_de_session() {
 namespace Application {
 
 void Initialiser() {
+    Restreindre_bibliotheques();
     // Never the system's own box for a drive without medium: every failure is reported by the program.
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
     INITCOMMONCONTROLSEX classes{sizeof classes, ICC_STANDARD_CLASSES};

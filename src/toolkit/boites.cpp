@@ -1,5 +1,6 @@
 #include "toolkit/boites.h"
 
+#include "platform/bibliotheques.h"
 #include "platform/erreur.h"
 #include "platform/fichiers.h"
 #include "platform/windows.h"
@@ -100,6 +101,7 @@ std::wstring Demander_texte(const std::wstring & invite, const std::wstring & ti
 }
 
 std::wstring Choisir_fichier(const std::wstring & titre, const std::wstring & filtre) {
+    Exiger_bibliotheque(L"comdlg32.dll");
     Fenetre *          proprietaire = Application::Devant();
     const std::wstring types        = Filtre_systeme(filtre);
     std::wstring       chemin(32768, L'\0');

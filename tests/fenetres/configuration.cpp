@@ -360,6 +360,18 @@ TEST_F(Configuration, parcourir_compose_la_ligne_d_un_bouton_et_annuler_la_laiss
     Fermer_editeur(editeur, true);
 }
 
+TEST_F(Configuration, parcourir_ne_charge_pas_une_bibliotheque_deposee_aupres_du_programme_ou_des_fichiers) {
+    Lancer_dans_les_dossiers();
+    for (const std::wstring & repertoire : {source, dossier / L"programme"})
+        Creer_fichier(repertoire + L"\\COMDLG32.DLL", "autre chose");
+    const auto editeur = Ouvrir_editeur();
+    Coller(editeur, L"Un=");
+    editeur.Cliquer(L"Parcourir");
+    Annuler_dialogue(Attendre_dialogue_systeme(
+        L"Parcourir pour le bouton 'Un'", {L"Tous les fichiers (*.*)", L"Programmes", L"Fichiers texte"}));
+    Fermer_editeur(editeur, false);
+}
+
 TEST_F(Configuration, parcourir_compose_une_association_avec_sa_marque) {
     const Textes       types{L"Programmes", L"Tous les fichiers (*.*)"};
     const std::wstring profond = dossier / (std::wstring(60, L'p') + L"\\" + std::wstring(60, L'q'));

@@ -63,6 +63,16 @@ TEST_F(Impressions, chaque_fichier_est_un_travail_a_son_nom_et_un_fichier_vide_n
     Verifier_source_intacte(avant);
 }
 
+TEST_F(Impressions, une_bibliotheque_deposee_aupres_du_programme_ou_des_fichiers_n_est_pas_chargee) {
+    Ecrire(L"a.txt", "un\r\n");
+    Lancer_choisis();
+    for (const std::wstring & repertoire : {source, dossier / L"programme"})
+        Creer_fichier(repertoire + L"\\WINSPOOL.DRV", "autre chose");
+    Cliquer(L"Imprimer");
+    Verifier_repos(L"Imprimer");
+    EXPECT_EQ(Titres_de(imprimante.Travaux()), Titres{L"Korvane - A.TXT"});
+}
+
 TEST_F(Impressions, une_ligne_est_coupee_a_160_caracteres_et_le_saut_de_page_tourne_la_page) {
     Ecrire(L"a.txt", "x" + std::string(158, 'o') + "yz\r\n\ta\fb" + std::string("\0c", 2) + "\r\n" +
                          std::string(1000000, 'm'));

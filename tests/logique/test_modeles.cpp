@@ -120,45 +120,6 @@ TEST(Modeles, une_exclusion_laisse_de_cote_les_noms_qui_lui_repondent_sans_regar
     }
 }
 
-TEST(Modeles, la_requete_au_systeme_ne_garde_du_modele_que_ses_deux_bouts) {
-    const std::vector<std::pair<std::wstring, std::wstring>> table{
-        {L"*.bat", L"*.bat"},
-        {L"*.tar.gz", L"*.tar.gz"},
-        {L"ms*.*", L"ms*"},
-        {L"ms*s.b?t", L"ms*t"},
-        {L"?.?", L"*"},
-        {L"*.", L"*"},
-        {L"m*.", L"m*"},
-        {L"m*. .", L"m*"},
-        {L"lisez.moi", L"lisez*"},
-        {L"nul.*", L"nul*"},  // "nul.*" is a device, whatever the directory
-        {L"été.*.b", L"été*.b"},
-        {std::wstring(300, L'a') + L".*", std::wstring(32, L'a') + L"*"},
-        {L"*" + std::wstring(300, L'a'), L"*" + std::wstring(32, L'a')},
-    };
-    for (const auto & [modele, requete] : table)
-        EXPECT_EQ(Requete(modele), requete) << testing::PrintToString(modele);
-}
-
-// Names around points, where what a wildcard takes is not what it seems.
-TEST(Modeles, la_requete_au_systeme_ne_laisse_aucun_nom_que_le_modele_accepte) {
-    const std::vector<std::wstring> noms{L"a",    L"a.b",   L"a.b.c", L"ab",    L"b",     L"a.",   L".a",
-                                         L".a.b", L"abc.b", L"ab.bc", L"a b.c", L"bb.cb", L"aa.bb"};
-    const std::wstring              lettres = L"ab.*?";
-    for (std::size_t rang = 0; rang < 5 * 5 * 5 * 5 * 5; ++rang) {
-        std::wstring saisi;
-        for (std::size_t reste = rang; reste != 0; reste /= lettres.size())
-            saisi += lettres[reste % lettres.size()];
-        const std::wstring modele = Completer_modele(saisi);
-        if (!Modele_correct(modele)) continue;
-        const Motifs motifs  = Motifs::Un_seul(modele, plier);
-        const Motifs requete = Motifs::Un_seul(Requete(modele), plier);
-        for (const std::wstring & nom : noms)
-            EXPECT_TRUE(!motifs.Accepte(nom) || requete.Accepte(nom))
-                << testing::PrintToString(modele) << ", " << testing::PrintToString(nom);
-    }
-}
-
 TEST(Modeles, des_etoiles_nombreuses_ne_font_pas_attendre) {
     std::wstring modele;
     for (int i = 0; i < 60; ++i) modele += L"*a";

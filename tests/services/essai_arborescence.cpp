@@ -38,42 +38,13 @@ TEST_F(Enumeration, chaque_entree_dit_ce_qu_elle_est) {
     EXPECT_EQ((Liste{L"fichier 5", L"sous repertoire"}), vues);
 }
 
-// What the mask leaves out is no sign of a missing directory, which stays an error.
-TEST_F(Enumeration, un_masque_epargne_les_autres_noms_et_un_repertoire_absent_reste_une_erreur) {
-    for (const wchar_t * nom : {L"a.txt", L"B.TXT", L"c.doc"}) Fichier(nom);
-    Repertoire(L"sous");
-    const auto sous_masque = [](const std::wstring & repertoire, const wchar_t * masque) {
-        Liste vues;
-        EXPECT_TRUE(Enumerer(
-            repertoire,
-            [&](const Entree_vue & vue) {
-                vues.emplace_back(vue.nom);
-                return true;
-            },
-            masque));
-        std::sort(vues.begin(), vues.end());
-        return vues;
-    };
-    EXPECT_EQ((Liste{L"B.TXT", L"a.txt"}), sous_masque(Racine(), L"*.txt"));
-    EXPECT_EQ(Liste{}, sous_masque(Racine(), L"*.xyz"));
-    EXPECT_EQ(Liste{}, sous_masque(Racine() + L"\\sous", L"*.txt"));
-    for (const wchar_t * masque : {L"*", L"*.txt"})
-        EXPECT_EQ(76, Numero_leve([&] { sous_masque(Racine() + L"\\absent", masque); })) << masque;
-}
-
-// A path that needs no prefix for itself may need one with its mask: all is visited then.
-TEST_F(Enumeration, un_chemin_a_la_limite_de_longueur_se_lit_sous_un_long_masque) {
-    std::wstring nom(100, L'r');
-    Repertoire(nom);
-    nom += L"\\" + std::wstring(244 - Chemin(nom).size(), L's');
-    const std::wstring repertoire = Repertoire(nom);
-    ASSERT_EQ(245u, repertoire.size());
-    Fichier(nom + L"\\fin.txt");
-    int vues = 0;
-    EXPECT_TRUE(Enumerer(
-        repertoire, [&](const Entree_vue & vue) { return vues += vue.nom == L"fin.txt", true; },
-        L"f*" + std::wstring(30, L'z')));
-    EXPECT_EQ(1, vues);
+TEST_F(Enumeration, un_repertoire_vide_n_a_rien_et_un_repertoire_absent_est_une_erreur) {
+    Repertoire(L"vide");
+    int        vues   = 0;
+    const auto visite = [&](const Entree_vue &) { return ++vues != 0; };
+    EXPECT_TRUE(Enumerer(Racine() + L"\\vide", visite));
+    EXPECT_EQ(0, vues);
+    EXPECT_EQ(76, Numero_leve([&] { Enumerer(Racine() + L"\\absent", visite); }));
 }
 
 bool Toujours(const Arbre &, std::size_t) { return true; }
@@ -235,6 +206,18 @@ ESSAI_UNITE(D, une_recherche_arretee_en_relevant_laisse_ce_qu_elle_a_parcouru) {
     EXPECT_EQ(5u, Arborescence().Nombre());
     EXPECT_TRUE(Arborescence_valide(L"d:"));
     EXPECT_FALSE(Arborescence_entiere());
+}
+
+// Nothing in it answers to the pattern: the search looks at the events all the same.
+ESSAI_UNITE(D, une_recherche_s_arrete_au_milieu_d_un_grand_repertoire_ou_rien_ne_repond) {
+    Preparer_d();
+    for (int i = 0; i < 600; ++i) Poser(L"d:\\zone\\" + std::to_wstring(i), "");
+    Relever_arborescence(L"d:", Toujours);
+    const std::size_t repertoires = Arborescence().Nombre();
+    std::size_t       regards     = 0;
+    const auto        rien        = [](const Fichier_trouve &) {};
+    EXPECT_TRUE(Rechercher({L"*.xyz", L"", false}, rien, [&] { return ++regards != 0; }).entiere);
+    EXPECT_GE(regards, repertoires + 2);
 }
 
 ESSAI_UNITE(D, un_repertoire_disparu_depuis_le_parcours_n_est_pas_dit_illisible) {
