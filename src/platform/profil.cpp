@@ -127,31 +127,31 @@ void Changer_sur_place(const std::string & nom, const std::string & section,
 // machine would take it for one that a power cut left.
 class Copie_profil {
 public:
-    explicit Copie_profil(const std::wstring & fichier) : chemin_(fichier + suffixe_copie) {
-        DeleteFileW(chemin_.c_str());  // left by a power cut
+    explicit Copie_profil(const std::wstring & fichier)
+        : chemin_(fichier + suffixe_copie), forme_(Forme_longue(chemin_)) {
+        DeleteFileW(forme_.c_str());  // left by a power cut
         Transfert transfert(fichier);
         transfert.Creer_cible(chemin_);
         while (transfert.Bloc()) {
         }
         transfert.Terminer(false);
-        prise_ =
-            Poignee_fichier(CreateFileW(chemin_.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                        nullptr, OPEN_EXISTING, 0, nullptr));
+        prise_ = Poignee_fichier(CreateFileW(forme_.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                             nullptr, OPEN_EXISTING, 0, nullptr));
         if (prise_.Valide()) return;
         const DWORD code = GetLastError();
-        DeleteFileW(chemin_.c_str());
+        DeleteFileW(forme_.c_str());
         Refuser(code, chemin_);
     }
     ~Copie_profil() {
         prise_ = Poignee_fichier();
-        DeleteFileW(chemin_.c_str());
+        DeleteFileW(forme_.c_str());
     }
     Copie_profil(const Copie_profil &)             = delete;
     Copie_profil & operator=(const Copie_profil &) = delete;
 
     const std::wstring & Chemin() const { return chemin_; }
     void                 Fixer() const {  // on the disk, before it takes a name that counts
-        const Poignee_fichier fichier(CreateFileW(chemin_.c_str(), GENERIC_WRITE,
+        const Poignee_fichier fichier(CreateFileW(forme_.c_str(), GENERIC_WRITE,
                                                                   FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
                                                                   0, nullptr));
         if (!fichier.Valide() || !FlushFileBuffers(fichier.Valeur())) Refuser(GetLastError(), chemin_);
@@ -163,6 +163,7 @@ public:
 
 private:
     std::wstring    chemin_;
+    std::wstring    forme_;
     Poignee_fichier prise_;
 };
 

@@ -217,9 +217,12 @@ protected:
 
 TEST_F(Options_applets,
        les_quatre_boutons_ouvrent_le_panneau_de_configuration_et_jamais_un_fichier_de_source) {
-    Installer_sous(dossier / L"programme\\CONTROL.EXE");
     Installer_sous(Source(L"CONTROL.EXE"));
-    const auto  fille  = Ouvrir_options();
+    const auto fille = Ouvrir_options();
+    // That of the system, which leaves no trace in the account.
+    fille.Cliquer(L"Bureau");
+    fille.Reposer();
+    Installer_sous(dossier / L"programme\\CONTROL.EXE");
     std::size_t nombre = 0;
     for (const auto & [bouton, applet] : {std::pair{L"Bureau", L"Desktop"},
                                           {L"Couleurs", L"Color"},

@@ -222,6 +222,18 @@ TEST_F(Profil, un_fichier_cache_garde_ses_attributs_ses_remarques_et_l_ordre_de_
     EXPECT_EQ(attributs, Attributs(ini_));
 }
 
+// The copy's name is longer than what the file's own calls take.
+TEST_F(Profil, un_chemin_presque_trop_long_ne_laisse_pas_de_copie) {
+    const std::wstring haut = Repertoire(std::wstring(100, L'h'));
+    const std::wstring bas  = haut + L"\\" + std::wstring(257 - haut.size() - 11, L'b');
+    ASSERT_TRUE(CreateDirectoryW(Prefixe(bas).c_str(), nullptr));
+    const std::wstring ini = bas + L"\\ESSAI.INI";
+    Poser(ini, "[Boutons]\r\nUn=1\r\n");
+    Ecrire_profil(ini, L"Boutons", L"Deux", L"2");
+    EXPECT_EQ("[Boutons]\r\nUn=1\r\nDeux=2\r\n", Contenu(ini));
+    EXPECT_FALSE(Present(ini + L".krv~"));
+}
+
 TEST_F(Profil, un_fichier_ouvert_ailleurs_s_ecrit_sur_place_et_un_fichier_verrouille_le_dit) {
     Poser(ini_, "[Boutons]\r\nUn=1\r\n");
     const auto tenir = [&](DWORD partage) {
