@@ -23,8 +23,9 @@ namespace {
 constexpr const wchar_t * nom_index   = L"KORVANE.CRB";
 constexpr const wchar_t * nom_reecrit = L"KORVANE.NEW";
 // Characters of the read buffer, terminator included.
-constexpr unsigned      tampon_total = 9;
-constexpr std::uint64_t plus_grand   = std::numeric_limits<std::int32_t>::max();
+constexpr unsigned      tampon_total        = 9;
+constexpr unsigned      tampon_total_entier = 16;  // what was written is compared whole
+constexpr std::uint64_t plus_grand          = std::numeric_limits<std::int32_t>::max();
 
 std::vector<std::wstring> Lieux() {
     std::vector<std::wstring> lieux{Repertoire_systeme()};
@@ -156,8 +157,11 @@ void Exiger_hors_corbeille(const std::wstring & chemin) {
 }
 
 void Enregistrer_total() {
-    Ecrire_profil(variables.Fichier_ini, Section::corbeille, Cle::total,
-                  std::to_wstring(variables.Total_corbeille));
+    const std::wstring total = std::to_wstring(variables.Total_corbeille);
+    // Most starts change nothing: the settings are not written again for that.
+    if (Lire_profil(variables.Fichier_ini, Section::corbeille, Cle::total, L"", tampon_total_entier) == total)
+        return;
+    Ecrire_profil(variables.Fichier_ini, Section::corbeille, Cle::total, total);
 }
 
 std::size_t Deposer_fichiers(const std::vector<Depot> & depots, const std::function<bool()> & continuer) {
