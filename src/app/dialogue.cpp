@@ -6,6 +6,7 @@
 #include "forms/gestion_fichiers.h"
 #include "platform/nombres.h"
 #include "toolkit/application.h"
+#include "toolkit/ecran.h"
 
 #include <algorithm>
 #include <array>
@@ -25,7 +26,7 @@ void Form_Paint() {
     Dialogue &               d       = *fenetres.dialogue;
     const Gestion_Fichiers & f       = Principale();
     const int                bordure = static_cast<int>(15 * variables.Bordure);
-    d.Move(f.Left() + 1300 + bordure, f.Top() + 1900 + bordure);
+    Placer_a_l_ecran(d, f.Left() + 1300 + bordure, f.Top() + 1900 + bordure, f);
     const auto choisi = static_cast<int>(Valeur(d.Tag));
     if (choisi >= 1 && choisi <= 3 && d.Tag == Avec_signe(choisi)) {
         d.Boutons[static_cast<std::size_t>(choisi - 1)]->SetFocus();

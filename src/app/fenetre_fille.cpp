@@ -12,7 +12,6 @@
 #include "toolkit/boites.h"
 #include "toolkit/ecran.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -68,11 +67,8 @@ void Brancher_astuce(Fenetre & fille, Liste & liste, Etiquette & tip) {
 }
 
 void Placer_fille(Fenetre & fille, int droite, int bas) {
-    const Gestion_Fichiers & f        = Principale();
-    const Rectangle_twips    zone     = Zone_de_travail(f);
-    const int                a_gauche = std::min(f.Left() + droite, zone.droite - fille.Width());
-    const int                en_haut  = std::min(f.Top() + bas, zone.bas - fille.Height());
-    fille.Move(std::max(zone.gauche, a_gauche), std::max(zone.haut, en_haut));
+    const Gestion_Fichiers & f = Principale();
+    Placer_a_l_ecran(fille, f.Left() + droite, f.Top() + bas, f);
 }
 
 void Fermer_fille(Fenetre & fille) {

@@ -105,8 +105,9 @@ void A_propos_Click() {
     Apropos & apropos = *fenetres.apropos;
     apropos.OK.Visible(true);
     apropos.WindowState(Etat_fenetre::normale);
-    apropos.Move(Principale().Left() + (Principale().Width() - apropos.Width()) / 2,
-                 Principale().Top() + (Principale().Height() - apropos.Height()) / 2);
+    const Gestion_Fichiers & f = Principale();
+    Placer_a_l_ecran(apropos, f.Left() + (f.Width() - apropos.Width()) / 2,
+                     f.Top() + (f.Height() - apropos.Height()) / 2, f);
     apropos.OK.SetFocus();
     apropos.Show_modal(Principale());
     // After the focus has come back, which explains the control that takes it.

@@ -14,15 +14,12 @@
 #include "forms/gestion_fichiers.h"
 #include "platform/chemins.h"
 #include "platform/erreur.h"
-#include "platform/fichiers.h"
 #include "platform/nombres.h"
 #include "platform/profil.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
-#include "platform/transfert.h"
 
 #include <functional>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -65,13 +62,9 @@ void Rendre(const Choix_Options & w) {
     variables.Option_couleur = w.Couleur_avant;
 }
 
-// Reads of a settings file that another program has locked would give the defaults, which OK would then save.
-void Exiger_reglages_lisibles() {
-    if (Fichier_existe(variables.Fichier_ini)) const Transfert lecture(variables.Fichier_ini);
-}
-
 void Lire_options(Choix_Options & w) {
-    Exiger_reglages_lisibles();
+    // Reads of a file that another program has locked would give the defaults, which OK would then save.
+    Exiger_lisible(variables.Fichier_ini);
     Retenir(w);
     w.Nom_éditeur.Text(Lire_option(Cle::editeur));
     w.Nom_visualiseur.Text(Lire_option(Cle::visualiseur));
@@ -104,7 +97,7 @@ Depart Depart_choisi(const Choix_Options & w) {
     return w.Choisi.Value() ? Depart::choisi : Depart::racine;
 }
 
-std::vector<std::pair<const wchar_t *, std::wstring>> Valeurs(const Choix_Options & w) {
+std::vector<Changement_profil> Valeurs(const Choix_Options & w) {
     return {
         {Cle::editeur, Programme_ecrit(w.Nom_éditeur.Text(), Defaut::editeur)},
         {Cle::visualiseur, Programme_ecrit(w.Nom_visualiseur.Text(), Defaut::visualiseur)},
@@ -119,7 +112,7 @@ std::vector<std::pair<const wchar_t *, std::wstring>> Valeurs(const Choix_Option
 
 // What the file says is in force, but for the options of the start.
 void Appliquer_reglages() {
-    Exiger_reglages_lisibles();
+    Exiger_lisible(variables.Fichier_ini);
     Lire_options_commandes();
     Lire_couleur();
     Appliquer_couleur(Couleur_permise(Valeur(variables.Option_couleur)));
@@ -127,12 +120,11 @@ void Appliquer_reglages() {
 
 void Ecrire_options(Choix_Options & w) {
     Exiger_textes(w);
-    for (const auto & [cle, valeur] : Valeurs(w))
-        Ecrire_profil(variables.Fichier_ini, Section::options, cle, valeur);
+    Changer_profil(variables.Fichier_ini, Section::options, Valeurs(w));
     Appliquer_reglages();
 }
 
-// However far the writing went. A file that cannot even be read changes nothing.
+// What the file has after a failure. One that cannot even be read changes nothing.
 void Remettre_en_vigueur(Choix_Options & w) {
     if (Tenter(Appliquer_reglages)) Retenir(w);
 }

@@ -11,6 +11,7 @@
 #include "platform/fichiers.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
+#include "recycle/corbeille.h"
 #include "toolkit/application.h"
 #include "toolkit/boites.h"
 
@@ -100,6 +101,7 @@ Suite Deplacer_un_fichier(Deplacement & d) {
         if (variables.Reponse == Reponse_boite::non) return Suite::continuer;
         if (variables.Reponse == Reponse_boite::annuler) return Suite::terminer;
     }
+    Exiger_hors_corbeille(variables.Chemin_source);
     d.f.Arret.Visible(true);
     Application::Laisser_passer();
     const bool  meme  = Meme_unite(variables.Chemin_source, variables.Chemin_cible);

@@ -20,6 +20,7 @@ bool Renommer_un_fichier(Gestion_Fichiers & f, const std::wstring & repertoire, 
         Confirmer_commande(f, repertoire);
         if (variables.Reponse != Reponse_boite::oui) return false;
     }
+    Exiger_hors_corbeille(variables.Chemin_source);
     // Search results are not spelled as the disk spells them.
     const std::wstring actuel  = Lire_entree(variables.Chemin_source).nom;
     const std::wstring nouveau = Demander_nom(Question_nouveau_nom_fichier(Majuscules(actuel)), actuel);

@@ -3,6 +3,7 @@
 #include "platform/erreur.h"
 #include "platform/fichiers.h"
 #include "platform/poignee.h"
+#include "platform/systeme.h"
 #include "platform/textes.h"
 #include "platform/transfert.h"
 #include "platform/valeur_profil.h"
@@ -14,6 +15,8 @@ namespace {
 constexpr std::size_t     plus_longue_liste = std::size_t{16} << 20;
 constexpr const char *    win_ini           = "WIN.INI";
 constexpr const wchar_t * suffixe_copie     = L".krv~";
+constexpr const wchar_t * tour_des_reglages = L"KORVANE.INI";
+constexpr unsigned        attente_du_tour   = 3000;  // milliseconds
 constexpr std::uint64_t   marge_disque      = 8192;  // bytes left free when a file is written again
 
 std::wstring Forme_courte(const std::wstring & chemin) {
@@ -120,30 +123,48 @@ void Changer_sur_place(const std::string & nom, const std::string & section,
     }
 }
 
-// The file that will take the place of the one to change; gone when it could not.
+// The file that will take the place of the one to change; gone when it could not. It is held open meanwhile: the program on another
+// machine would take it for one that a power cut left.
 class Copie_profil {
 public:
-    explicit Copie_profil(const std::wstring & fichier) : chemin_(fichier + suffixe_copie) {
-        DeleteFileW(chemin_.c_str());  // left by a power cut
+    explicit Copie_profil(const std::wstring & fichier)
+        : chemin_(fichier + suffixe_copie), forme_(Forme_longue(chemin_)) {
+        DeleteFileW(forme_.c_str());  // left by a power cut
         Transfert transfert(fichier);
         transfert.Creer_cible(chemin_);
         while (transfert.Bloc()) {
         }
         transfert.Terminer(false);
+        prise_ = Poignee_fichier(CreateFileW(forme_.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                             nullptr, OPEN_EXISTING, 0, nullptr));
+        if (prise_.Valide()) return;
+        const DWORD code = GetLastError();
+        DeleteFileW(forme_.c_str());
+        Refuser(code, chemin_);
     }
-    ~Copie_profil() { DeleteFileW(chemin_.c_str()); }
+    ~Copie_profil() {
+        prise_ = Poignee_fichier();
+        DeleteFileW(forme_.c_str());
+    }
     Copie_profil(const Copie_profil &)             = delete;
     Copie_profil & operator=(const Copie_profil &) = delete;
 
     const std::wstring & Chemin() const { return chemin_; }
     void                 Fixer() const {  // on the disk, before it takes a name that counts
-        const Poignee_fichier fichier(
-                            CreateFileW(chemin_.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        const Poignee_fichier fichier(CreateFileW(forme_.c_str(), GENERIC_WRITE,
+                                                                  FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                                                  0, nullptr));
         if (!fichier.Valide() || !FlushFileBuffers(fichier.Valeur())) Refuser(GetLastError(), chemin_);
+    }
+    bool Remplacer(const std::wstring & fichier) {
+        prise_ = Poignee_fichier();
+        return Tenter([&] { Remplacer_fichier(chemin_, fichier); });
     }
 
 private:
-    std::wstring chemin_;
+    std::wstring    chemin_;
+    std::wstring    forme_;
+    Poignee_fichier prise_;
 };
 
 // The system writes the whole file again, and not every system tells when the disk was full before the end.
@@ -157,11 +178,24 @@ void Exiger_place(const std::wstring & fichier, const std::vector<Changement_pro
         Refuser(ERROR_DISK_FULL, fichier);
 }
 
-// False when no copy can be made beside the file, or take its place: another program has it open, the directory takes no file.
+// What another program writes after the copy was made would be lost with the former file.
+bool Inchange(const std::wstring & fichier, const Entree_repertoire & avant) {
+    bool inchange = false;
+    Tenter([&] {
+        const Entree_repertoire etat = Lire_etat(fichier);
+        inchange                     = etat.moment == avant.moment && etat.taille == avant.taille;
+    });
+    return inchange;
+}
+
+// False when no copy can be made beside the file, or take its place: another program has it open or has just written it, the
+// directory takes no file.
 bool Changer_par_copie(const std::wstring & fichier, const std::string & section,
                        const std::vector<Changement_profil> & changements) {
     std::optional<Copie_profil> copie;
+    Entree_repertoire           avant;
     try {
+        avant = Lire_etat(fichier);
         copie.emplace(fichier);
     } catch (const Erreur_execution & erreur) {
         if (erreur.numero == Numero::disque_plein) throw;
@@ -172,7 +206,7 @@ bool Changer_par_copie(const std::wstring & fichier, const std::string & section
     Exiger_place(fichier, changements);
     for (const Changement_profil & changement : changements) Ecrire(*nom, section, changement, fichier);
     copie->Fixer();
-    return Tenter([&] { Remplacer_fichier(copie->Chemin(), fichier); });
+    return Inchange(fichier, avant) && copie->Remplacer(fichier);
 }
 
 // A link would become a file of its own; one that is not there yet has nothing to lose.
@@ -232,11 +266,13 @@ void Changer_profil(const std::wstring & fichier, const wchar_t * section,
     const auto nom = Nom_de_fichier(fichier);
     if (!nom) Refuser(ERROR_NO_UNICODE_TRANSLATION, fichier);
     Exiger_possibles(changements, fichier);
+    const Exclusivite tour(tour_des_reglages, attente_du_tour);
     // A file that cannot be written is not always reported by the call: its attribute is looked at first.
     const DWORD attributs = *nom == win_ini ? 0 : GetFileAttributesA(nom->c_str());
     if (attributs != INVALID_FILE_ATTRIBUTES && (attributs & FILE_ATTRIBUTE_READONLY) != 0)
         Refuser(ERROR_ACCESS_DENIED, fichier);
-    if (Copiable(*nom) && Changer_par_copie(fichier, En_ansi(section), changements)) return;
+    if (Copiable(*nom) && Changer_par_copie(fichier, En_ansi(section), changements))
+        return Vider_memoire(*nom);
     Changer_sur_place(*nom, En_ansi(section), changements, fichier);
 }
 

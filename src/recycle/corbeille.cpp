@@ -9,18 +9,23 @@
 #include "platform/nombres.h"
 #include "platform/profil.h"
 #include "platform/systeme.h"
+#include "platform/textes.h"
+#include "recycle/fiche.h"
+#include "recycle/tirage.h"
 #include "toolkit/application.h"
 
 #include <algorithm>
 #include <limits>
+#include <string_view>
 
 namespace {
 
 constexpr const wchar_t * nom_index   = L"KORVANE.CRB";
 constexpr const wchar_t * nom_reecrit = L"KORVANE.NEW";
 // Characters of the read buffer, terminator included.
-constexpr unsigned      tampon_total = 9;
-constexpr std::uint64_t plus_grand   = std::numeric_limits<std::int32_t>::max();
+constexpr unsigned      tampon_total        = 9;
+constexpr unsigned      tampon_total_entier = 16;  // what was written is compared whole
+constexpr std::uint64_t plus_grand          = std::numeric_limits<std::int32_t>::max();
 
 std::vector<std::wstring> Lieux() {
     std::vector<std::wstring> lieux{Repertoire_systeme()};
@@ -71,6 +76,19 @@ std::size_t Tiennent(const std::vector<Depot> & depots) {
 }
 
 Limites_corbeille Limites() { return {variables.Taille_corbeille, variables.Temps_corbeille}; }
+
+// A name that the bin may have given, on some day.
+bool Est_un_code(std::wstring_view nom) {
+    Fiche fiche;
+    fiche.code = nom;
+    return Numero_du_jour(nom, fiche.Jour()).has_value();
+}
+
+bool Est_rangee(const Fiche & fiche, const std::wstring & chemin) {
+    return Comparer_sans_casse(fiche.code, std::wstring(Nom_du_chemin(chemin))) == 0 &&
+           (Comparer_sans_casse(fiche.Chemin_code(), chemin) == 0 ||
+            Meme_fichier(fiche.Chemin_code(), chemin));
+}
 
 // Another program has its turn: windows are drawn meanwhile, and no command starts.
 void Attendre_son_tour() {
@@ -127,9 +145,23 @@ void Renommer_repertoire_suivi(const std::wstring & ancien, const std::wstring &
     Magasin_corbeille().Suivre_repertoire(ancien, nouveau, renommer);
 }
 
+void Exiger_hors_corbeille(const std::wstring & chemin) {
+    if (!Est_un_code(Nom_du_chemin(chemin)) || !Index_existe()) return;
+    const std::wstring courant = variables.Fichier_courant;
+    const Ouverture    ouverture;
+    Magasin_corbeille().Relire();
+    const std::vector<Fiche> & fiches = Magasin_corbeille().Fiches();
+    if (std::any_of(fiches.begin(), fiches.end(), [&](const Fiche & f) { return Est_rangee(f, chemin); }))
+        throw Erreur_execution(Numero::acces_fichier, 0, chemin);
+    variables.Fichier_courant = courant;
+}
+
 void Enregistrer_total() {
-    Ecrire_profil(variables.Fichier_ini, Section::corbeille, Cle::total,
-                  std::to_wstring(variables.Total_corbeille));
+    const std::wstring total = std::to_wstring(variables.Total_corbeille);
+    // Most starts change nothing: the settings are not written again for that.
+    if (Lire_profil(variables.Fichier_ini, Section::corbeille, Cle::total, L"", tampon_total_entier) == total)
+        return;
+    Ecrire_profil(variables.Fichier_ini, Section::corbeille, Cle::total, total);
 }
 
 std::size_t Deposer_fichiers(const std::vector<Depot> & depots, const std::function<bool()> & continuer) {

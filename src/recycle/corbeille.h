@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <vector>
 
 // The program's recycle bin: the store under the limits of the settings and the running total that they keep.
@@ -24,6 +25,9 @@ void Recalculer_total();
 // Renames a directory, see Magasin::Suivre_repertoire, also while the bin is not in use: it may still hold files. When there is an index
 // and it cannot be opened the directory keeps its name.
 void Renommer_repertoire_suivi(const std::wstring & ancien, const std::wstring & nouveau);
+// Error 75, without a current file, for a file that lies in the bin: under another name or elsewhere nothing would lead back to it.
+// The error of the index when the name is one of the bin's and the index cannot be read.
+void Exiger_hors_corbeille(const std::wstring & chemin);
 // Writes Total_corbeille to the settings.
 void Enregistrer_total();
 // Stores files, see Magasin::Deposer, and says how many; adds to Total_corbeille, after an error too. Error 6 for a file with which

@@ -11,6 +11,9 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 constexpr int             taille_maximale = 9999;  // kilobytes
@@ -56,21 +59,16 @@ void Refuser(Champ_texte & champ, const wchar_t * message) {
     champ.Selectionner(0, -1);
 }
 
-void Ecrire(const wchar_t * cle, const std::wstring & valeur) {
-    Ecrire_profil(variables.Fichier_ini, Section::corbeille, cle,
-                  valeur.empty() ? std::nullopt : std::optional(valeur));
+Changement_profil Changement(const wchar_t * cle, const std::wstring & valeur) {
+    return {cle, valeur.empty() ? std::nullopt : std::optional(valeur)};
 }
 
-// The limit that counts is written before the other one goes: no instant leaves the bin without the one it keeps.
+// In one step, and the limit that counts before the other one goes: no instant leaves the bin without the one it keeps.
 void Ecrire_cles(const std::wstring & taille, const std::wstring & temps) {
+    std::vector<Changement_profil> cles{Changement(Cle::taille, taille), Changement(Cle::temps, temps)};
+    if (taille.empty()) std::swap(cles.front(), cles.back());
     variables.Fichier_courant = Nom_du_chemin(variables.Fichier_ini);
-    if (taille.empty()) {
-        Ecrire(Cle::temps, temps);
-        Ecrire(Cle::taille, {});
-    } else {
-        Ecrire(Cle::taille, taille);
-        Ecrire(Cle::temps, {});
-    }
+    Changer_profil(variables.Fichier_ini, Section::corbeille, cles);
     variables.Fichier_courant.clear();
 }
 }  // namespace

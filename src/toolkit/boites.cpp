@@ -6,6 +6,7 @@
 #include "platform/windows.h"
 #include "toolkit/application.h"
 #include "toolkit/controles.h"
+#include "toolkit/ecran.h"
 #include "toolkit/fenetre.h"
 #include "toolkit/interne.h"
 
@@ -91,8 +92,8 @@ std::wstring Demander_texte(const std::wstring & invite, const std::wstring & ti
     if (proprietaire == nullptr) return {};
     const double hauteur = proprietaire->Hauteur_texte(invite, largeur_saisie - 2 * marge);
     Saisie       saisie(invite, titre, std::max(390, static_cast<int>(hauteur) + 30));
-    saisie.Move(proprietaire->Left() + (proprietaire->Width() - saisie.Width()) / 2,
-                proprietaire->Top() + 1900);
+    Placer_a_l_ecran(saisie, proprietaire->Left() + (proprietaire->Width() - saisie.Width()) / 2,
+                     proprietaire->Top() + 1900, *proprietaire);
     saisie.Texte.Text(defaut);
     saisie.Texte.Selectionner(0, -1);
     saisie.Texte.SetFocus();

@@ -4,6 +4,8 @@
 #include "toolkit/fenetre.h"
 #include "toolkit/mesure.h"
 
+#include <algorithm>
+
 int Largeur_ecran() { return Twips(GetSystemMetrics(SM_CXSCREEN)); }
 
 int Hauteur_ecran() { return Twips(GetSystemMetrics(SM_CYSCREEN)); }
@@ -15,6 +17,13 @@ Rectangle_twips Zone_de_travail(const Fenetre & fenetre) {
         return {0, 0, Largeur_ecran(), Hauteur_ecran()};
     const RECT & zone = ecran.rcWork;
     return {Twips(zone.left), Twips(zone.top), Twips(zone.right), Twips(zone.bottom)};
+}
+
+void Placer_a_l_ecran(Fenetre & fenetre, int left, int top, const Fenetre & autour) {
+    const Rectangle_twips zone    = Zone_de_travail(autour);
+    const int             gauche  = std::min(left, zone.droite - fenetre.Width());
+    const int             en_haut = std::min(top, zone.bas - fenetre.Height());
+    fenetre.Move(std::max(zone.gauche, gauche), std::max(zone.haut, en_haut));
 }
 
 Point_twips Pointeur(const Fenetre & fenetre) {

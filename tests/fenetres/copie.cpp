@@ -171,6 +171,38 @@ TEST_F(Copie, une_fenetre_reduite_pose_ses_questions_sur_l_ecran) {
     Attendre_fin_commande();
 }
 
+TEST_F(Copie, une_fenetre_au_bord_de_l_ecran_pose_ses_questions_sur_l_ecran) {
+    Creer_source(L"a.txt", 10);
+    Lancer_vers(L"");
+    RECT zone{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &zone, 0);
+    const auto entiere = [&](const wchar_t * nom) {
+        const RECT place = Place_ecran(Fenetre(nom));
+        return place.left >= zone.left && place.top >= zone.top && place.right <= zone.right + 1 &&
+               place.bottom <= zone.bottom + 1;
+    };
+    const auto aller = [&](int x, int y) {
+        SetWindowPos(Principale(), nullptr, x, y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        Reposer(Principale());
+    };
+    for (const POINT coin : {POINT{zone.right - 450, zone.bottom - 60}, POINT{-500, zone.bottom - 60}}) {
+        aller(20, 10);
+        Choisir_un(L"a.txt");
+        aller(coin.x, coin.y);
+        PostMessageW(Controle(L"Copier"), BM_CLICK, 0, 0);
+        EXIGER(Fenetre(L"Saisie"));
+        EXPECT_TRUE(entiere(L"Saisie"));
+        PostMessageW(Controle(L"Saisie", L"Annuler"), BM_CLICK, 0, 0);
+        ATTENDRE(!Fenetre(L"Saisie"));
+        Attendre_fin_commande();
+        PostMessageW(Controle(L"A_propos"), BM_CLICK, 0, 0);
+        EXIGER(Fenetre(L"Apropos"));
+        EXPECT_TRUE(entiere(L"Apropos"));
+        PostMessageW(Controle(L"Apropos", L"OK"), BM_CLICK, 0, 0);
+        ATTENDRE(!Fenetre(L"Apropos"));
+    }
+}
+
 TEST_F(Copie, dans_son_propre_repertoire_chaque_fichier_recoit_le_nom_demande) {
     Creer_source(L"a.txt", 40000, 1);
     Creer_source(L"été.txt", 200, 2);

@@ -217,9 +217,12 @@ protected:
 
 TEST_F(Options_applets,
        les_quatre_boutons_ouvrent_le_panneau_de_configuration_et_jamais_un_fichier_de_source) {
-    Installer_sous(dossier / L"programme\\CONTROL.EXE");
     Installer_sous(Source(L"CONTROL.EXE"));
-    const auto  fille  = Ouvrir_options();
+    const auto fille = Ouvrir_options();
+    // That of the system, which leaves no trace in the account.
+    fille.Cliquer(L"Bureau");
+    fille.Reposer();
+    Installer_sous(dossier / L"programme\\CONTROL.EXE");
     std::size_t nombre = 0;
     for (const auto & [bouton, applet] : {std::pair{L"Bureau", L"Desktop"},
                                           {L"Couleurs", L"Color"},
@@ -287,5 +290,38 @@ TEST_F(Options_corbeille, un_fichier_cache_se_depose_et_un_fichier_deja_depose_r
     Attendre_protege(Capitales(restants[0]));
     Attendre_fin_commande();
     EXPECT_EQ(Noms(source), restants);
+    EXPECT_EQ(Corbeille::Lignes().size(), 1u);
+}
+
+// The index knows them by that name and in that place alone.
+TEST_F(Options_corbeille, un_fichier_depose_ne_change_ni_de_nom_ni_de_place_et_se_recupere) {
+    Regler(L"Corbeille", L"Taille", L"9999");
+    Creer_source(L"a.txt", 100);
+    Creer_source(L"crb35000.007", 50);  // a file of the user's, under a name that looks like one of the bin's
+    const auto fille = Ouvrir_options();
+    fille.Cliquer(L"Cachés");
+    Accepter(fille);
+    Effacer_un(L"a.txt");
+    Attendre_fin_commande();
+    const auto lignes = Corbeille::Lignes();
+    ASSERT_EQ(lignes.size(), 1u);
+    ATTENDRE(Entrees(L"Fichier_srce").size() == 2u);
+    for (const DWORD attributs : {FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_READONLY, FILE_ATTRIBUTE_ARCHIVE}) {
+        Attributs(lignes[0].Chemin_code(), attributs);
+        for (const wchar_t * commande : {L"Renommer", L"Déplacer"}) {
+            Choisir({lignes[0].code});
+            Cliquer(commande);
+            Attendre_avertissement(
+                L"Un ou plusieurs fichiers cachés et protégés contre l'effacement existent dans ce "
+                L"répertoire et "
+                L"appartiennent peut-être à la corbeille :\rrécupérez ceux-ci et relancez l'opération.");
+            Attendre_fin_commande();
+            EXPECT_TRUE(Existe(lignes[0].Chemin_code())) << Utf8(commande);
+        }
+    }
+    Choisir({L"crb35000.007"});
+    Cliquer(L"Déplacer");
+    Attendre_fin_commande();
+    EXPECT_TRUE(Existe(Destination(L"crb35000.007")) && Boite_absente());
     EXPECT_EQ(Corbeille::Lignes().size(), 1u);
 }

@@ -410,3 +410,18 @@ TEST_F(Resultats_D,
         EXPECT_TRUE(Effacer(L"D:\\vers\\profond.dat") && Effacer(L"D:\\vers\\Жук.dat"));
     }
 }
+
+TEST_F(Resultats_D, lister_les_fichiers_caches_laisse_les_resultats_et_leur_choix) {
+    Creer_d(L"un\\caché.txt", 1);
+    Attributs(L"D:\\un\\caché.txt", FILE_ATTRIBUTE_HIDDEN);
+    Lancer_avec_trois();
+    Ranger_principale();
+    Cliquer(L"Options");
+    const auto options = Fille(L"Choix_Options");
+    options.Attendre_ouverte();
+    options.Cliquer(L"Cachés");
+    options.Cliquer(L"OK");
+    options.Attendre_fermee();
+    Restent(trois, trois, trois_comptes);
+    EXPECT_TRUE(Est_actif(L"Copier"));
+}

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <atomic>
 #include <thread>
+#include <utility>
 
 namespace {
 
@@ -58,6 +59,29 @@ protected:
         Poser(variables.Fichier_ini, "[Corbeille]\r\nTotal=" + total + "\r\n");
     }
 };
+
+TEST_F(Corbeilles, un_total_inchange_ne_fait_pas_ecrire_les_reglages) {
+    variables.Corbeille_active = true;
+    variables.Taille_corbeille = 9999;
+    Ouvrir_corbeille();
+    const std::size_t deposes = Deposer_fichiers({Deposable(L"a", 300)}, Toujours);
+    EXPECT_EQ(deposes, 1u);
+    Ecrire_total("300");
+    // Settings that are written are another file under the same name.
+    const auto fichier = [] {
+        const Poignee_fichier ini(CreateFileW(variables.Fichier_ini.c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                              nullptr, OPEN_EXISTING, 0, nullptr));
+        BY_HANDLE_FILE_INFORMATION lu{};
+        EXPECT_TRUE(GetFileInformationByHandle(ini.Valeur(), &lu));
+        return std::pair(lu.nFileIndexHigh, lu.nFileIndexLow);
+    };
+    const auto avant = fichier();
+    Purger_corbeille();
+    EXPECT_EQ(fichier(), avant);
+    Ecrire_total("30");
+    Purger_corbeille();
+    EXPECT_EQ(Total_garde(), "300");
+}
 
 }  // namespace
 

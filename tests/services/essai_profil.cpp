@@ -3,6 +3,9 @@
 #include "platform/profil.h"
 #include "services/banc.h"
 
+#include <string>
+#include <thread>
+
 using namespace Interception;
 
 namespace {
@@ -179,6 +182,56 @@ TEST_F(Profil, une_copie_abandonnee_ne_gene_pas_et_une_copie_impossible_non_plus
     Repertoire(L"ESSAI.INI.krv~");
     Ecrire_profil(ini_, L"Boutons", L"Un", std::nullopt);
     EXPECT_EQ("[Boutons]\r\nDeux=2\r\n", Contenu(ini_));
+}
+
+TEST_F(Profil, deux_programmes_qui_ecrivent_en_meme_temps_gardent_les_cles_l_un_de_l_autre) {
+    constexpr int nombre = 15;
+    Poser(ini_, "[Options]\r\nAide=Oui\r\n");
+    const auto ecrire = [this](const wchar_t * section) {
+        for (int i = 0; i < nombre; ++i)
+            EXPECT_EQ(0,
+                      Numero_leve([&] { Ecrire_profil(ini_, section, L"Cle" + std::to_wstring(i), L"x"); }));
+    };
+    { const std::jthread un(ecrire, L"Un"), deux(ecrire, L"Deux"); }
+    for (const wchar_t * section : {L"Un", L"Deux"})
+        for (int i = 0; i < nombre; ++i)
+            EXPECT_EQ(L"x", Lire_profil(ini_, section, L"Cle" + std::to_wstring(i), L"", 9)) << i;
+    EXPECT_EQ(L"Oui", Lire_profil(ini_, L"Options", L"Aide", L"", 9));
+    EXPECT_FALSE(Present(ini_ + L".krv~"));
+}
+
+// The copy of a program on another machine, which has its own turns.
+TEST_F(Profil, la_copie_qu_un_autre_programme_prepare_reste_la_sienne) {
+    Poser(ini_, "[Boutons]\r\nUn=1\r\n");
+    Poser(ini_ + L".krv~", "[Boutons]\r\nUn=1\r\nAutre=2\r\n");
+    const Poignee_fichier prise(CreateFileW((ini_ + L".krv~").c_str(), GENERIC_READ,
+                                            FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0,
+                                            nullptr));
+    Ecrire_profil(ini_, L"Boutons", L"Deux", L"2");
+    EXPECT_EQ("[Boutons]\r\nUn=1\r\nDeux=2\r\n", Contenu(ini_));
+    EXPECT_EQ("[Boutons]\r\nUn=1\r\nAutre=2\r\n", Contenu(ini_ + L".krv~"));
+}
+
+TEST_F(Profil, un_fichier_cache_garde_ses_attributs_ses_remarques_et_l_ordre_de_ses_sections) {
+    Poser(ini_, "; tête\r\n[Étrangère]\r\nz=1\r\n[Boutons]\r\n;Un=0\r\nUn=1\r\n[Fin]\r\nx=y\r\n");
+    const std::uint32_t attributs = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+    Regler_attributs(ini_, attributs);
+    Ecrire_profil(ini_, L"Boutons", L"Un", L"2");
+    EXPECT_EQ("; tête\r\n[Étrangère]\r\nz=1\r\n[Boutons]\r\n;Un=0\r\nUn=2\r\n[Fin]\r\nx=y\r\n",
+              Contenu(ini_));
+    EXPECT_EQ(attributs, Attributs(ini_));
+}
+
+// The copy's name is longer than what the file's own calls take.
+TEST_F(Profil, un_chemin_presque_trop_long_ne_laisse_pas_de_copie) {
+    const std::wstring haut = Repertoire(std::wstring(100, L'h'));
+    const std::wstring bas  = haut + L"\\" + std::wstring(257 - haut.size() - 11, L'b');
+    ASSERT_TRUE(CreateDirectoryW(Prefixe(bas).c_str(), nullptr));
+    const std::wstring ini = bas + L"\\ESSAI.INI";
+    Poser(ini, "[Boutons]\r\nUn=1\r\n");
+    Ecrire_profil(ini, L"Boutons", L"Deux", L"2");
+    EXPECT_EQ("[Boutons]\r\nUn=1\r\nDeux=2\r\n", Contenu(ini));
+    EXPECT_FALSE(Present(ini + L".krv~"));
 }
 
 TEST_F(Profil, un_fichier_ouvert_ailleurs_s_ecrit_sur_place_et_un_fichier_verrouille_le_dit) {
