@@ -44,6 +44,7 @@ TEST_F(Visionneuse, ce_qui_ne_peut_etre_lu_est_dit_dans_la_vue_et_les_autres_fic
         EXPECT_EQ(Boite_visible(programme->Numero()), nullptr);
         const bool lisible = rang == 2 || rang == 6;
         EXPECT_EQ(Fenetre().Est_actif(L"Suivant"), lisible) << Utf8(cas[rang].nom);
+        EXPECT_EQ(Entree_courante(Fenetre().Controle(L"Affichage")), lisible ? 0 : -1) << Utf8(cas[rang].nom);
         // Keys that move, search or show otherwise do no harm where there is nothing.
         for (const int touche : {VK_NEXT, VK_F4, VK_F4}) Pilote::Frapper(static_cast<WORD>(touche));
         Frapper_ctrl(VK_END);
