@@ -139,6 +139,34 @@ TEST_F(Visionneuse, ovl_confie_les_fichiers_a_celle_qui_est_ouverte) {
     EXPECT_EQ(Texte(autre.Controle(L"Vue")), L"troisieme\r\n");
 }
 
+TEST_F(Visionneuse, ce_qu_un_autre_programme_lui_envoie_de_travers_est_refuse) {
+    Creer(L"a.txt", "un");
+    Lancer_fichiers({L"a.txt"});
+    const HWND reception = FindWindowExW(HWND_MESSAGE, nullptr, L"PELMIRA_Remise", nullptr);
+    ASSERT_NE(reception, nullptr);
+    const ULONG_PTR    marque = 0x4B52564E;
+    const std::wstring texte(600000, L'a');
+    const auto         envoyer = [&](ULONG_PTR sorte, std::size_t octets) {
+        COPYDATASTRUCT donnees{sorte, static_cast<DWORD>(octets), const_cast<wchar_t *>(texte.data())};
+        DWORD_PTR      pris = 7;
+        EXPECT_NE(SendMessageTimeoutW(reception, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&donnees),
+                                              SMTO_NORMAL, 5000, &pris),
+                          0);
+        return pris;
+    };
+    EXPECT_EQ(envoyer(0, 2), 0u);
+    EXPECT_EQ(envoyer(marque, 3), 0u);
+    EXPECT_EQ(envoyer(marque, 2 * texte.size()), 0u);
+    EXPECT_EQ(envoyer(marque, 0), 1u);
+    EXPECT_EQ(Lu(), L"un\r\n");
+    EXPECT_EQ(Nombre_entrees(Fenetre().Controle(L"Fichiers")), 1);
+    // A name of any length is a name all the same.
+    EXPECT_EQ(envoyer(marque, 80000), 1u);
+    ATTENDRE(Nombre_entrees(Fenetre().Controle(L"Fichiers")) == 2);
+    EXPECT_TRUE(Montre(L"\n\n"));
+    EXPECT_EQ(Boite_visible(programme->Numero()), nullptr);
+}
+
 TEST_F(Visionneuse, plusieurs_lancees_a_la_fois_par_ovl_ne_font_qu_une_fenetre) {
     std::vector<std::unique_ptr<Programme>> lancees;
     for (int i = 0; i < 4; ++i) {
