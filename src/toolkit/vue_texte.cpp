@@ -398,6 +398,9 @@ bool Vue_texte::Traiter(unsigned message, std::uintptr_t mot, std::intptr_t larg
         InvalidateRect(Poignee(), nullptr, FALSE);
         if (Taille) Taille();
         return false;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_UPDATEUISTATE: InvalidateRect(Poignee(), nullptr, FALSE); return false;
     case WM_GETTEXT:
     case WM_GETTEXTLENGTH: return Rendre_texte(message, mot, large, resultat);
     case WM_VSCROLL: Barre_verticale(LOWORD(mot)); return true;

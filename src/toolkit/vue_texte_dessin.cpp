@@ -84,6 +84,9 @@ void Vue_texte::Peindre() {
     Remplir(dessin, {0, y, place.right, std::max<LONG>(place.bottom, y)}, Rouge_vert_bleu(BackColor()));
     SetTextColor(dessin, Rouge_vert_bleu(ForeColor()));
     if (!avis_.empty()) Ecrire_avis(dessin, place, avis_);
+    // Who goes from control to control with the keys sees that the view is reached.
+    const bool cache = (SendMessageW(Poignee(), WM_QUERYUISTATE, 0, 0) & UISF_HIDEFOCUS) != 0;
+    if (A_le_focus() && !cache) DrawFocusRect(dessin, &place);
     SelectObject(dessin, avant);
     EndPaint(Poignee(), &peinture);
 }

@@ -75,6 +75,7 @@ void Seance::Montrer_contenu(std::uint64_t position, bool nouveau) {
     f.Suivant.Enabled(montrable);
     f.Imprimer.Enabled(montrable);
     if (!montrable) {
+        f.Affichage.Choisir(-1);
         f.Vue.Avis(document_ ? L"" : L"Aucun fichier n'est ouvert.");
         return Dire_etat(L"");
     }

@@ -234,16 +234,16 @@ TEST_F(Visionneuse, la_selection_du_clavier_ou_de_la_souris_est_copiee_dans_le_p
     Lancer_fichiers({L"a.txt", L"b.bin"});
     Frapper_ctrl('A');
     Frapper_ctrl('C');
-    EXPECT_EQ(Utf8(Presse_papiers()), "un\r\ndeux\r\ntrois");
+    ATTENDRE(Presse_papiers() == L"un\r\ndeux\r\ntrois");
     // From the beginning to below the last row, at the left edge: the start of that row.
     const RECT place = Place_ecran(Vue());
     Glisser({place.left + 6, place.top + 6}, {place.left + 6, place.top + 200}, Vue());
     Frapper_ctrl('C');
-    EXPECT_EQ(Utf8(Presse_papiers()), "un\r\ndeux\r\n");
+    ATTENDRE(Presse_papiers() == L"un\r\ndeux\r\n");
     Choisir(L"Fichiers", 1);
     Frapper_ctrl('A');
     Frapper_ctrl('C');
-    EXPECT_EQ(Utf8(Presse_papiers()), "4D 00 5A");
+    ATTENDRE(Presse_papiers() == L"4D 00 5A");
 }
 
 TEST_F(Visionneuse, un_glisser_que_le_fichier_relu_interrompt_rend_la_souris_aux_autres_controles) {
@@ -283,6 +283,9 @@ TEST_F(Visionneuse, echap_la_croix_et_le_bouton_la_ferment) {
     Creer(L"a.txt", "x");
     Lancer_fichiers({L"a.txt"});
     EXPECT_EQ(Fenetre().Defauts(), "");
+    const std::vector<std::wstring> tour{L"Vue",       L"Fichiers", L"Ouvrir",    L"Imprimer", L"Fermer",
+                                         L"Affichage", L"Retour",   L"Recherche", L"Suivant"};
+    EXPECT_EQ(Fenetre().Tour_du_clavier(false), tour);
     Pilote::Frapper(VK_ESCAPE);
     EXPECT_TRUE(programme->Attendre_fin(5000));
     EXPECT_EQ(programme->Code_de_fin(), 0u);

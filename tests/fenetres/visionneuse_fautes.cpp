@@ -44,6 +44,7 @@ TEST_F(Visionneuse, ce_qui_ne_peut_etre_lu_est_dit_dans_la_vue_et_les_autres_fic
         EXPECT_EQ(Boite_visible(programme->Numero()), nullptr);
         const bool lisible = rang == 2 || rang == 6;
         EXPECT_EQ(Fenetre().Est_actif(L"Suivant"), lisible) << Utf8(cas[rang].nom);
+        EXPECT_EQ(Entree_courante(Fenetre().Controle(L"Affichage")), lisible ? 0 : -1) << Utf8(cas[rang].nom);
         // Keys that move, search or show otherwise do no harm where there is nothing.
         for (const int touche : {VK_NEXT, VK_F4, VK_F4}) Pilote::Frapper(static_cast<WORD>(touche));
         Frapper_ctrl(VK_END);
@@ -136,6 +137,34 @@ TEST_F(Visionneuse, ovl_confie_les_fichiers_a_celle_qui_est_ouverte) {
     const Fille     autre(seule.Numero(), L"Visionneuse");
     autre.Attendre_ouverte();
     EXPECT_EQ(Texte(autre.Controle(L"Vue")), L"troisieme\r\n");
+}
+
+TEST_F(Visionneuse, ce_qu_un_autre_programme_lui_envoie_de_travers_est_refuse) {
+    Creer(L"a.txt", "un");
+    Lancer_fichiers({L"a.txt"});
+    const HWND reception = FindWindowExW(HWND_MESSAGE, nullptr, L"PELMIRA_Remise", nullptr);
+    ASSERT_NE(reception, nullptr);
+    const ULONG_PTR    marque = 0x4B52564E;
+    const std::wstring texte(600000, L'a');
+    const auto         envoyer = [&](ULONG_PTR sorte, std::size_t octets) {
+        COPYDATASTRUCT donnees{sorte, static_cast<DWORD>(octets), const_cast<wchar_t *>(texte.data())};
+        DWORD_PTR      pris = 7;
+        EXPECT_NE(SendMessageTimeoutW(reception, WM_COPYDATA, 0, reinterpret_cast<LPARAM>(&donnees),
+                                              SMTO_NORMAL, 5000, &pris),
+                          0);
+        return pris;
+    };
+    EXPECT_EQ(envoyer(0, 2), 0u);
+    EXPECT_EQ(envoyer(marque, 3), 0u);
+    EXPECT_EQ(envoyer(marque, 2 * texte.size()), 0u);
+    EXPECT_EQ(envoyer(marque, 0), 1u);
+    EXPECT_EQ(Lu(), L"un\r\n");
+    EXPECT_EQ(Nombre_entrees(Fenetre().Controle(L"Fichiers")), 1);
+    // A name of any length is a name all the same.
+    EXPECT_EQ(envoyer(marque, 80000), 1u);
+    ATTENDRE(Nombre_entrees(Fenetre().Controle(L"Fichiers")) == 2);
+    EXPECT_TRUE(Montre(L"\n\n"));
+    EXPECT_EQ(Boite_visible(programme->Numero()), nullptr);
 }
 
 TEST_F(Visionneuse, plusieurs_lancees_a_la_fois_par_ovl_ne_font_qu_une_fenetre) {
