@@ -190,8 +190,11 @@ au_plus() {
 }
 
 tranche_fenetres() {
+    # A filter has one list of what it leaves out.
+    local sauf=-
+    [[ $filtre == *-* ]] && sauf=:
     GTEST_TOTAL_SHARDS=$tranches GTEST_SHARD_INDEX=$(($1 - 1)) lancer_essais "fenetres-$1" null 96 900 \
-        "$programmes/tests_fenetres.exe" "--gtest_filter=$filtre-Ecran*"
+        "$programmes/tests_fenetres.exe" "--gtest_filter=$filtre${sauf}Ecran*"
 }
 
 # Each run has its own prefix, its own desktop and its own drives. They mostly wait: one more than there are processors, the

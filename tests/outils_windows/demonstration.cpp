@@ -145,7 +145,7 @@ void Visite::Montrer_l_aide() {
 
 Fille Visite::Ouvrir_fille(const std::wstring & bouton, const std::wstring & nom) {
     Pilote::Cliquer(Controle(bouton));
-    const Fille fille{programme->Numero(), nom};
+    Fille fille{programme->Numero(), nom};
     fille.Attendre_ouverte();
     Ecarter_pointeur();
     return fille;

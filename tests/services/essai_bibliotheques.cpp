@@ -10,13 +10,14 @@ namespace {
 
 // What lies in the current directory under the name of a library.
 class Bibliotheques : public testing::Test {
-protected:
+public:
     Bibliotheques() {
         Pilote::Creer_fichier(dossier / L"deposee.dll", "autre chose");
         Changer_repertoire(dossier.Chemin());
     }
     ~Bibliotheques() override { Changer_repertoire(avant); }
 
+private:
     const std::wstring         avant = Repertoire_courant();
     Pilote::Dossier_temporaire dossier;
 };
