@@ -249,6 +249,8 @@ void Fenetre::Hide() {
     // The owner must be usable before this window goes, or another program comes to the front.
     if (modale_ && proprietaire_ != nullptr)
         EnableWindow(proprietaire_->poignee_, proprietaire_actif_ ? TRUE : FALSE);
+    // The owner under the pointer is told of a move when this window goes: the pointer has not moved.
+    if (modale_ && proprietaire_ != nullptr) proprietaire_->Pointeur_bouge();
     ShowWindow(poignee_, SW_HIDE);
     if (modale_ && proprietaire_ != nullptr) SetActiveWindow(proprietaire_->poignee_);
     modale_ = false;

@@ -203,6 +203,9 @@ TEST_F(Options, l_aide_par_fichier_choisie_pendant_l_aide_contextuelle_remplace_
     const auto fille = Rouvrir_options();
     Cocher(fille, L"Aide", true);
     Accepter(fille);
+    // What the system tells the window that comes to lie under a pointer at rest.
+    PostMessageW(Controle(L"Copier"), WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    Reposer(Principale());
     Attendre_rappel_aide();
     Cliquer(L"Aide");
     Attendre_boite(gestionnaire, L"Le fichier d'aide KORVANE.HLP est introuvable.",
