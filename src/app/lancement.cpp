@@ -42,18 +42,35 @@ std::wstring Transmissible(const std::wstring &                                 
     Refuser(chemin);
     return {};
 }
-}  // namespace
+// The line with the installed program under its full path, where its bare name would lead elsewhere.
+std::wstring Avec_programme_installe(const std::wstring & ligne) {
+    const std::wstring_view programme = Programme_de_la_ligne(ligne);
+    const std::wstring      chemin    = Programme_masque(programme);
+    if (chemin.empty()) return ligne;
+    const std::size_t fin  = static_cast<std::size_t>(programme.data() - ligne.data()) + programme.size();
+    const bool        cite = fin < ligne.size() && ligne[fin] == L'"';
+    return Citer_fichier(chemin) + ligne.substr(fin + (cite ? 1 : 0));
+}
 
-void Lancer(const std::wstring & ligne, const std::wstring & repertoire) {
+void Lancer_ligne(const std::wstring & ligne, const std::wstring & repertoire, bool installe) {
     try {
         const Repertoire_de_travail travail(repertoire.empty() ? Principale().Répertoire_srce.Path()
                                                                : repertoire);
-        variables.Tache = Demarrer(Ligne_sure(ligne));
+        variables.Tache = Demarrer(Ligne_sure(installe ? Avec_programme_installe(ligne) : ligne));
     } catch (const Erreur_execution &) {
         // What could not be started is the program, whatever file it was to be given.
         variables.Fichier_courant = Nom_du_chemin(Programme_de_la_ligne(ligne));
         throw;
     }
+}
+}  // namespace
+
+void Lancer(const std::wstring & ligne, const std::wstring & repertoire) {
+    Lancer_ligne(ligne, repertoire, false);
+}
+
+void Lancer_installe(const std::wstring & ligne, const std::wstring & repertoire) {
+    Lancer_ligne(ligne, repertoire, true);
 }
 
 std::wstring Programme_de_l_extension(const std::wstring & extension) {

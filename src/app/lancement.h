@@ -6,6 +6,9 @@
 // escaped here and nowhere else (Ligne_sure), so that one start never becomes two. Errors 53, 76, 5, 7, 64, 68, 71, 70: nothing
 // was started, and Fichier_courant names the program that was not.
 void Lancer(const std::wstring & ligne, const std::wstring & repertoire = {});
+// The same for a program of the settings: one that is installed on the machine is not mistaken for a file of that name in the
+// directory.
+void Lancer_installe(const std::wstring & ligne, const std::wstring & repertoire = {});
 
 // The program that WIN.INI associates with an extension, perhaps with parameters of its own; empty without one.
 std::wstring Programme_de_l_extension(const std::wstring & extension);

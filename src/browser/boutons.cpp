@@ -80,7 +80,7 @@ void Executer(const Gestion_Fichiers & f, const std::wstring & caption) {
     // Before the question: parameters typed for a directory that is not there would be lost.
     const Repertoire_de_travail travail(repertoire);
     if (commande.parametres && !Ajouter_parametres(ligne, commande.cible, repertoire)) return;
-    Lancer(ligne, repertoire);
+    Lancer_installe(ligne, repertoire);
 }
 
 void Bouton_Click(std::size_t rang) {

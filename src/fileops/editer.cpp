@@ -21,7 +21,7 @@ void Editer_un_par_un(const Gestion_Fichiers & f, const std::wstring & editeur) 
         if (!Accepter_fichier(f, p.Courant().repertoire)) return;
         const std::wstring nom = Chemin_pour(editeur, Nom_a_editer(p.Courant()));
         if (nom.empty()) return;
-        Lancer(Ligne_editeur(editeur, nom, Programme_existe));
+        Lancer_installe(Ligne_editeur(editeur, nom, Programme_existe));
         Application::Laisser_passer();
     }
 }

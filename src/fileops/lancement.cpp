@@ -35,8 +35,8 @@ void Lancer_par_listes(const Gestion_Fichiers & f, const std::wstring & programm
         if (!Accepter_fichier(f, p.Courant().repertoire)) return;
         const std::wstring chemin = Chemin_pour(programme, variables.Chemin_source);
         if (chemin.empty()) return;
-        if (const auto pleine = groupe.Ajouter(chemin)) Lancer(ligne(*pleine));
+        if (const auto pleine = groupe.Ajouter(chemin)) Lancer_installe(ligne(*pleine));
         Application::Laisser_passer();
     }
-    if (!groupe.Liste().empty()) Lancer(ligne(groupe.Liste()));
+    if (!groupe.Liste().empty()) Lancer_installe(ligne(groupe.Liste()));
 }

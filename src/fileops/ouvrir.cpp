@@ -24,7 +24,7 @@ std::wstring Programme_pour(const std::wstring & nom) {
 void Lancer_associe(const Gestion_Fichiers & f, const std::wstring & programme) {
     Changer_repertoire(f.Répertoire_srce.Path());
     const std::wstring chemin = Chemin_pour(programme, variables.Chemin_source);
-    if (!chemin.empty()) Lancer(Ligne_association(programme, chemin, Programme_existe));
+    if (!chemin.empty()) Lancer_installe(Ligne_association(programme, chemin, Programme_existe));
 }
 
 // A command that goes on in the place of this one, under its own name.

@@ -1,7 +1,9 @@
 #include "platform/programmes.h"
 
+#include "platform/chemins.h"
 #include "platform/erreur.h"
 #include "platform/fichiers.h"
+#include "platform/systeme.h"
 #include "platform/textes.h"
 #include "platform/windows.h"
 
@@ -17,6 +19,18 @@ constexpr std::wstring_view prefixe_reseau  = L"\\\\?\\UNC\\";
     if (code == 0) Lever_code(raison == 0 ? ERROR_NOT_ENOUGH_MEMORY : raison, Acte::ouvrir, ligne);
     if (code == ERROR_BAD_FORMAT) throw Erreur_execution(Numero::appel_incorrect, code, ligne);
     Lever_code(code, Acte::ouvrir, ligne);
+}
+std::wstring Repertoire_windows() {
+    std::wstring chemin(longueur_chemin, L'\0');
+    chemin.resize(GetWindowsDirectoryW(chemin.data(), longueur_chemin));
+    return chemin;
+}
+
+std::wstring Variable_path() {
+    std::wstring valeur(longueur_chemin, L'\0');
+    const DWORD  lus = GetEnvironmentVariableW(L"PATH", valeur.data(), longueur_chemin);
+    valeur.resize(lus < longueur_chemin ? lus : 0);
+    return valeur;
 }
 }  // namespace
 
@@ -53,6 +67,22 @@ bool Programme_existe(std::wstring_view programme) {
     std::wstring chemin(longueur_chemin, L'\0');
     chemin.resize(SearchPathW(nullptr, nom.c_str(), L".EXE", longueur_chemin, chemin.data(), nullptr));
     return !chemin.empty() && Fichier_existe(chemin);
+}
+
+std::wstring Programme_masque(std::wstring_view nom) {
+    if (nom.empty() || nom.find_first_of(L"\\/:") != std::wstring_view::npos) return {};
+    std::wstring programme(nom);
+    if (nom.find(L'.') == std::wstring_view::npos) programme += L".EXE";
+    // Beside our own program is where the system looks first.
+    if (!Fichier_existe(Joindre(Repertoire_courant(), programme)) ||
+        Fichier_existe(Joindre(Repertoire_programme(), programme)))
+        return {};
+    const std::wstring repertoires =
+        Repertoire_systeme() + L";" + Repertoire_windows() + L";" + Variable_path();
+    std::wstring chemin(longueur_chemin, L'\0');
+    chemin.resize(SearchPathW(repertoires.c_str(), programme.c_str(), nullptr, longueur_chemin, chemin.data(),
+                              nullptr));
+    return chemin;
 }
 
 Repertoire_de_travail::Repertoire_de_travail(const std::wstring & repertoire) {

@@ -19,6 +19,11 @@ std::wstring Chemin_court(const std::wstring & chemin);
 // Whether a start finds a file under that text: a path, or a name that is looked for where programs are. Nothing is raised.
 bool Programme_existe(std::wstring_view programme);
 
+// The installed program (system directory, Windows directory, PATH) that a bare name stands for, where a file of the current
+// directory would be started in its place: what lies among the user's files must not pass for a program of the machine. Empty when
+// the name leads to the right program by itself. Nothing is raised.
+std::wstring Programme_masque(std::wstring_view nom);
+
 // A directory that is the current one while this lives; the former one comes back. An empty path changes nothing. Errors of
 // Changer_repertoire: 76, 68, 71, 70.
 class Repertoire_de_travail {

@@ -77,6 +77,23 @@ TEST_F(Edition, un_editeur_absent_ou_qui_n_est_pas_un_programme_est_nomme_et_rie
     EXPECT_EQ(Lignes(0), Textes{});
 }
 
+TEST_F(Edition, un_fichier_du_repertoire_qui_porte_le_nom_de_l_editeur_n_est_pas_pris_pour_lui) {
+    const std::wstring installe = L"C:\\windows\\EDITESS.EXE";
+    Regler(L"Options", L"Editeur", L"EDITESS.EXE");
+    Installer_enregistreur(Source(L"EDITESS.EXE"));
+    Installer_enregistreur(installe);
+    Creer_source(L"a.txt", 10);
+    Lancer_dans_les_dossiers();
+    Commander(L"Editer", {L"a.txt"});
+    Verifier_repos(L"Editer");
+    EXPECT_EQ(Lignes(1), Textes{installe + L" a.txt"});
+    EXPECT_TRUE(Effacer(installe));
+    // Where no such program is installed there is nothing to mistake.
+    Commander(L"Editer", {L"a.txt"});
+    Verifier_repos(L"Editer");
+    EXPECT_EQ(Lignes(2).back(), L"EDITESS.EXE a.txt");
+}
+
 TEST_F(Edition, un_nom_hors_de_la_page_de_codes_passe_sous_son_nom_court) {
     Creer_source(L"θάλασσα.txt", 10);
     Lancer_dans_les_dossiers();
