@@ -278,6 +278,13 @@ void Korvane::Attendre_boite(const Boite & attendue, int reponse) {
     ASSERT_NE(boite, nullptr) << "aucune boîte ; attendue : " << attendue;
     EXPECT_EQ(Lire_boite(boite), attendue);
     EXPECT_TRUE(Repondre_boite(boite, reponse)) << "la boîte n'a pas pris la réponse " << reponse;
+    // The window behind it becomes active first, then gives the focus to one of its controls.
+    Attendre(
+        [] {
+            const HWND devant = GetForegroundWindow();
+            return devant == nullptr || Focus(devant) != devant;
+        },
+        300);
 }
 
 bool Korvane::Boite_absente() const { return !Boite_visible(programme->Numero()); }
