@@ -167,7 +167,8 @@ void Montrer_resultats(Gestion_Fichiers & f, std::vector<Fichier_trouve> trouves
     variables.Mode_resultats = true;
     variables.Nombre_trouves = f.Resultats.size();
     f.Fichier_sél.Visible(true);
-    if (f.Fichier_srce.A_le_focus()) f.Fichier_sél.SetFocus();
+    // The keys are for what was found: in the directory list, Delete would remove the SOURCE directory.
+    f.Fichier_sél.SetFocus();
     f.Fichier_srce.Visible(false);
     f.Copier.Enabled(true);
     Pieger(etiquette, [&] { Compter_a_l_arrivee(f); });

@@ -103,7 +103,10 @@ void Controle::SetFocus() {
 
 void Controle::Reprendre_focus() { ::SetFocus(poignee_); }
 
-void Controle::Focus_pris() { fenetre_.actif_ = this; }
+void Controle::Focus_pris() {
+    fenetre_.actif_ = this;
+    fenetre_.Marquer_defaut();
+}
 
 bool Controle::A_le_focus() const {
     const HWND focus = GetFocus();
@@ -181,7 +184,7 @@ std::intptr_t Controle::Recevoir(unsigned message, std::uintptr_t mot, std::intp
         }
         break;
     case WM_SETFOCUS:
-        fenetre_.actif_ = this;
+        Focus_pris();
         if (!GotFocus) break;
         GotFocus();
         // A handler may pass the focus on: the control must not show a caret that it has lost already.

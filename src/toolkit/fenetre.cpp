@@ -312,6 +312,17 @@ void Fenetre::Passer_focus() {
     ::SetFocus(suivant != nullptr ? suivant : poignee_);
 }
 
+void Fenetre::Marquer_defaut() {
+    const Controle * sous_entree = dynamic_cast<Bouton_commande *>(actif_) != nullptr ? actif_ : defaut_;
+    for (Controle * controle : controles_) {
+        if (dynamic_cast<Bouton_commande *>(controle) == nullptr) continue;
+        const auto     style  = static_cast<DWORD>(GetWindowLongW(controle->Poignee(), GWL_STYLE)) & 0xFFFFU;
+        const unsigned nature = controle == sous_entree ? BS_DEFPUSHBUTTON : BS_PUSHBUTTON;
+        const WPARAM   voulu  = (style & ~static_cast<DWORD>(BS_TYPEMASK)) | nature;
+        if (voulu != style) SendMessageW(controle->Poignee(), BM_SETSTYLE, voulu, TRUE);
+    }
+}
+
 void Fenetre::Premier_focus() {
     const HWND premier = GetNextDlgTabItem(poignee_, nullptr, FALSE);
     if (premier != nullptr) ::SetFocus(premier);

@@ -92,6 +92,7 @@ private:
     void          Passer_focus();
     void          Placer(int x, int y, int largeur, int hauteur);  // screen pixels
     void          Premier_focus();
+    void          Marquer_defaut();  // the button that Enter presses, by its border
 
     std::wstring            nom_;
     Poignee_fenetre         poignee_       = nullptr;

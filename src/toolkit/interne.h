@@ -24,6 +24,7 @@ public:
     static bool Traiter(MSG & message);  // true: finished with
 
 private:
+    static bool Parcourir(MSG & message, Fenetre & fenetre);
     static bool Touche_enfoncee(MSG & message, Fenetre & fenetre, Controle * controle);
     static bool Caractere(MSG & message, Controle * controle);
     static bool Entree(Fenetre & fenetre, Controle * controle);

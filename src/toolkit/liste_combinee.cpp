@@ -1,9 +1,11 @@
 #include "platform/windows.h"
+#include "toolkit/fenetre.h"
 #include "toolkit/interne.h"
 #include "toolkit/listes.h"
 #include "toolkit/mesure.h"
 
 #include <commctrl.h>
+#include <utility>
 
 namespace {
 // Posted to oneself: the choice is reported once the combo box has finished with it.
@@ -120,10 +122,15 @@ void Liste_combinee::Notification(unsigned code) {
     case CBN_SETFOCUS:
         // A click gives the focus to the edit field inside, and nothing to the combo box itself.
         Focus_pris();
+        if (marque_ != 0) Envoyer(CB_SETEDITSEL, 0, std::exchange(marque_, 0));
         if (GotFocus) GotFocus();
         break;
     case CBN_KILLFOCUS:
-        // The edit inside had the focus, and by now another window has it.
+        // The edit inside had the focus, and by now another window has it. A text left marked looks as if it still had it.
+        if (editable_ && GetAncestor(GetFocus(), GA_ROOT) == Parent().Poignee()) {
+            marque_ = Envoyer(CB_GETEDITSEL);
+            Envoyer(CB_SETEDITSEL, 0, 0);
+        }
         Quitter_focus(GetFocus());
         break;
     case CBN_DROPDOWN:

@@ -90,8 +90,9 @@ private:
     void Oublier_choix();
     void Renoncer_au_choix();
 
-    bool         editable_;
-    int          dernier_ = -1;  // entry last reported
-    bool         annule_  = false;
-    std::wstring texte_;  // text last reported
+    bool          editable_;
+    int           dernier_ = -1;  // entry last reported
+    bool          annule_  = false;
+    std::wstring  texte_;       // text last reported
+    std::intptr_t marque_ = 0;  // of the text, when another control took the focus: its ends in two halves
 };

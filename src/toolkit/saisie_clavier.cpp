@@ -36,6 +36,14 @@ bool Saisie_clavier::Echappement(Fenetre & fenetre, Controle * controle) {
     return true;
 }
 
+// The system moves the focus, and then takes the border from every button that has not the focus, the default one too.
+bool Saisie_clavier::Parcourir(MSG & message, Fenetre & fenetre) {
+    const HWND poignee = fenetre.Poignee();
+    const bool finie   = IsDialogMessageW(poignee, &message) != FALSE;
+    if (Fenetre_de_poignee(poignee) != nullptr) fenetre.Marquer_defaut();
+    return finie;
+}
+
 bool Saisie_clavier::Touche_enfoncee(MSG & message, Fenetre & fenetre, Controle * controle) {
     auto      touche     = static_cast<int>(message.wParam);
     const int majuscules = Etat_majuscules();
@@ -49,13 +57,11 @@ bool Saisie_clavier::Touche_enfoncee(MSG & message, Fenetre & fenetre, Controle 
     switch (touche) {
     case VK_RETURN: return Entree(fenetre, controle);
     case VK_ESCAPE: return Echappement(fenetre, controle);
-    case VK_TAB: return IsDialogMessageW(fenetre.Poignee(), &message) != FALSE;
+    case VK_TAB: return Parcourir(message, fenetre);
     case VK_LEFT:
     case VK_RIGHT:
     case VK_UP:
-    case VK_DOWN:
-        return controle != nullptr && controle->Veut_fleches() &&
-               IsDialogMessageW(fenetre.Poignee(), &message) != FALSE;
+    case VK_DOWN: return controle != nullptr && controle->Veut_fleches() && Parcourir(message, fenetre);
     default: return false;
     }
 }

@@ -117,6 +117,21 @@ TEST_F(Clavier, echap_referme_une_liste_d_unites_sans_rien_changer_et_ne_fait_ri
     EXPECT_EQ(Nom_du_focus(), L"Unité_srce");
 }
 
+TEST_F(Clavier, le_champ_de_selection_n_a_son_texte_marque_que_tant_qu_il_a_le_focus) {
+    Lancer();
+    const auto marque = [&] {
+        const auto bornes =
+            static_cast<DWORD>(SendMessageW(Controle(L"Sélection_fichiers"), CB_GETEDITSEL, 0, 0));
+        return HIWORD(bornes) - LOWORD(bornes);
+    };
+    Aller_a(L"Sélection_fichiers");
+    ATTENDRE(marque() == 3);
+    Touche(VK_TAB);
+    ATTENDRE(marque() == 0);
+    Touche_avec(VK_SHIFT, VK_TAB);
+    ATTENDRE(marque() == 3);
+}
+
 TEST_F(Clavier, les_lettres_d_acces_agissent_dans_les_deux_modes) {
     Creer_source(L"a.txt", 10);
     Creer_source(L"b.txt", 10);

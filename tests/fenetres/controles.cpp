@@ -32,6 +32,14 @@ protected:
         return noms;
     }
     using Noms = std::vector<std::wstring>;
+    // The buttons with the border of the one that Enter presses.
+    Noms Bordes() const {
+        Noms noms;
+        for (const wchar_t * nom : {L"OK", L"Annuler"}) {
+            if ((GetWindowLongW(C(nom), GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON) noms.push_back(nom);
+        }
+        return noms;
+    }
 };
 
 TEST_F(Controles_simples, la_case_change_par_clic_par_espace_et_par_sa_lettre) {
@@ -146,6 +154,21 @@ TEST_F(Controles_simples, entree_et_echappement_valent_les_boutons_ok_et_annuler
     Reposer(Fenetre(L"Vitrine"));
     Frapper(VK_ESCAPE);
     Attendre_ligne(L"annuler");
+}
+
+TEST_F(Controles_simples, le_bord_montre_le_bouton_qu_entree_presse_d_ou_que_vienne_le_focus) {
+    Ouvrir_controles();
+    Cliquer_sur(L"Champ");
+    ATTENDRE(Bordes() == Noms{L"OK"});
+    for (const wchar_t * suivant : {L"OK", L"Annuler", L"OK"}) {
+        Frapper(VK_TAB);
+        ATTENDRE(Bordes() == Noms{suivant});
+    }
+    EXPECT_EQ(Nom(Focus(Fenetre(L"Vitrine"))), L"Case");
+    Frapper_avec(VK_SHIFT, VK_TAB);
+    ATTENDRE(Bordes() == Noms{L"Annuler"});
+    Cliquer_sur(L"Champ");
+    ATTENDRE(Bordes() == Noms{L"OK"});
 }
 
 TEST_F(Controles_simples, le_programme_arrete_avec_une_fenetre_modale_finit_sans_attendre) {
