@@ -3,6 +3,7 @@ set(KORVANE_SOURCES_LOGIQUE
     src/platform/chemins.cpp
     src/app/cles_profil.cpp
     src/app/libelles_erreur.cpp
+    src/app/lignes_commande.cpp
     src/app/palette.cpp
     src/platform/nombres.cpp
     src/browser/groupe_boutons.cpp
@@ -10,7 +11,6 @@ set(KORVANE_SOURCES_LOGIQUE
     src/config/ligne_conf.cpp
     src/config/valeurs_options.cpp
     src/fileops/jauge.cpp
-    src/fileops/lignes_commande.cpp
     src/fileops/questions.cpp
     src/fileops/resume.cpp
     src/platform/motifs.cpp

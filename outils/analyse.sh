@@ -60,8 +60,8 @@ couche() {
 }
 
 verifier_couches() {
-    local -a systeme toolkit platform forms visionneuse autres logique
-    local resultat=0
+    local -a systeme toolkit platform forms visionneuse autres logique commandes
+    local resultat=0 dossier interdits
     mapfile -t toolkit < <(find src/toolkit -name '*.cpp' -o -path 'src/toolkit/*.h')
     mapfile -t platform < <(find src/platform -name '*.cpp' -o -path 'src/platform/*.h')
     mapfile -t forms < <(find src/forms -name '*.cpp' -o -path 'src/forms/*.h')
@@ -77,6 +77,13 @@ verifier_couches() {
     couche "platform/windows|toolkit/" "${logique[@]}" || resultat=1
     couche "(app|browser|fileops|recycle|search|config|visionneuse)/" "${forms[@]}" || resultat=1
     couche "(app|browser|fileops|recycle|search|config|forms)/" "${visionneuse[@]}" || resultat=1
+    # Each of the folders that hold the commands, and those that it may not know.
+    for dossier in app:fileops,search,config browser:fileops,recycle,config search:browser,fileops,recycle,config \
+        recycle:browser,fileops,search,config config:browser,fileops,recycle,search fileops:search,config; do
+        interdits=${dossier#*:},visionneuse
+        mapfile -t commandes < <(find "src/${dossier%%:*}" -name '*.cpp' -o -name '*.h')
+        couche "(${interdits//,/|})/" "${commandes[@]}" || resultat=1
+    done
     return $resultat
 }
 

@@ -14,10 +14,10 @@ for role in "$@"; do
         construire) paquets+=(g++-mingw-w64-x86-64 cmake ninja-build ccache librsvg2-bin icoutils halibut) ;;
         paquet) paquets+=(nsis zip unzip) ;;
         executer) paquets+=(wine wine64 fonts-wine fonts-liberation) ;;
-        demonstration) paquets+=(xvfb xauth imagemagick googletest) ;;
+        demonstration) paquets+=(xvfb imagemagick googletest) ;;
         essais)
-            paquets+=(g++ clang clang-format clang-tidy libclang-rt-14-dev googletest xvfb xauth imagemagick)
-            paquets+=(util-linux xfsprogs dosfstools e2fsprogs ghostscript poppler-utils)
+            paquets+=(g++ clang clang-format clang-tidy libclang-rt-dev googletest xvfb imagemagick)
+            paquets+=(util-linux xfsprogs dosfstools e2fsprogs ghostscript poppler-utils procps)
             ;;
         *)
             echo "rôle inconnu : $role" >&2

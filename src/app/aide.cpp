@@ -7,7 +7,6 @@
 #include "forms/gestion_fichiers.h"
 #include "platform/aide.h"
 #include "platform/nombres.h"
-#include "platform/textes.h"
 #include "toolkit/boites.h"
 
 namespace {

@@ -2,8 +2,8 @@
 
 #include "app/fenetres.h"
 #include "app/globals.h"
+#include "app/lignes_commande.h"
 #include "app/settings.h"
-#include "fileops/lignes_commande.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/chemins.h"
 #include "platform/erreur.h"

@@ -18,6 +18,7 @@
 #include "platform/profil.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
+#include "platform/valeur_profil.h"
 
 #include <functional>
 #include <vector>
@@ -184,8 +185,8 @@ void Ouvrir_applet(const wchar_t * applet) {
 void Brancher_saisie(Choix_Options & w) {
     for (Champ_texte * champ : {&w.Nom_éditeur, &w.Nom_visualiseur, &w.Répert_choisi})
         champ->Limite(longueur_saisie);
-    w.Nom_éditeur.Change     = [&w] { variables.Editeur = Sans_marges(w.Nom_éditeur.Text()); };
-    w.Nom_visualiseur.Change = [&w] { variables.Visualiseur = Sans_marges(w.Nom_visualiseur.Text()); };
+    w.Nom_éditeur.Change     = [&w] { variables.Editeur = Sans_blancs(w.Nom_éditeur.Text()); };
+    w.Nom_visualiseur.Change = [&w] { variables.Visualiseur = Sans_blancs(w.Nom_visualiseur.Text()); };
     w.Cachés.Click           = [&w] { Cachés_Click(w); };
     w.Choisi.Click           = [&w] { Choisi_Click(w); };
     w.Choix_couleur.Bornes(0, derniere_couleur);

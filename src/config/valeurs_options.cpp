@@ -1,13 +1,13 @@
 #include "config/valeurs_options.h"
 
+#include "platform/valeur_profil.h"
+
 #include <algorithm>
 
 namespace {
-constexpr const wchar_t * racine  = L"Racine";
-constexpr const wchar_t * courant = L"Courant";
-// What the system takes off both ends of a value that it reads.
-constexpr std::wstring_view marges           = L" \t\n\v\f\r\x1A\xA0";
-constexpr std::size_t       longueur_de_tete = 12;  // characters that tell an empty program name
+constexpr const wchar_t * racine           = L"Racine";
+constexpr const wchar_t * courant          = L"Courant";
+constexpr std::size_t     longueur_de_tete = 12;  // characters that tell an empty program name
 
 wchar_t En_minuscule(wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c; }
 
@@ -18,20 +18,14 @@ bool Meme_mot(std::wstring_view a, std::wstring_view b) {
 // A path copied from elsewhere may come between quotes, which no name can hold.
 std::wstring_view Sans_guillemets(std::wstring_view texte) {
     while (texte.size() >= 2 && texte.front() == L'"' && texte.back() == L'"')
-        texte = Sans_marges(texte.substr(1, texte.size() - 2));
+        texte = Sans_blancs(texte.substr(1, texte.size() - 2));
     return texte;
 }
 }  // namespace
 
-std::wstring_view Sans_marges(std::wstring_view texte) {
-    const std::size_t debut = texte.find_first_not_of(marges);
-    if (debut == std::wstring_view::npos) return {};
-    return texte.substr(debut, texte.find_last_not_of(marges) - debut + 1);
-}
-
 std::wstring Programme_ecrit(std::wstring_view champ, const wchar_t * defaut) {
-    const std::wstring_view texte = Sans_marges(champ);
-    if (Sans_marges(champ.substr(0, longueur_de_tete)).empty() || Sans_guillemets(texte).empty())
+    const std::wstring_view texte = Sans_blancs(champ);
+    if (Sans_blancs(champ.substr(0, longueur_de_tete)).empty() || Sans_guillemets(texte).empty())
         return defaut;
     return std::wstring(texte);
 }
@@ -45,6 +39,6 @@ Depart Depart_lu(std::wstring_view valeur) {
 
 std::wstring Depart_ecrit(Depart depart, std::wstring_view champ) {
     if (depart == Depart::racine) return racine;
-    const std::wstring_view chemin = Sans_guillemets(Sans_marges(champ));
+    const std::wstring_view chemin = Sans_guillemets(Sans_blancs(champ));
     return depart == Depart::courant || chemin.empty() ? courant : std::wstring(chemin);
 }

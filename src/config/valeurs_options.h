@@ -4,9 +4,6 @@
 
 // Between what the controls of the options hold and the texts of the settings file.
 
-// Blanks at both ends do not count.
-std::wstring_view Sans_marges(std::wstring_view texte);
-
 // What is written for a program: `defaut` when the first 12 characters of the field are all blanks, or there is nothing but quotes
 // in it, otherwise its text without the blanks around it.
 std::wstring Programme_ecrit(std::wstring_view champ, const wchar_t * defaut);

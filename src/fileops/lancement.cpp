@@ -2,9 +2,9 @@
 
 #include "app/globals.h"
 #include "app/lancement.h"
+#include "app/lignes_commande.h"
 #include "browser/selection.h"
 #include "fileops/confirmations.h"
-#include "fileops/lignes_commande.h"
 #include "forms/gestion_fichiers.h"
 #include "platform/fichiers.h"
 #include "toolkit/application.h"

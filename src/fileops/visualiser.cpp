@@ -1,8 +1,8 @@
 #include "app/garde.h"
 #include "app/globals.h"
+#include "app/lignes_commande.h"
 #include "fileops/commandes.h"
 #include "fileops/lancement.h"
-#include "fileops/lignes_commande.h"
 #include "platform/programmes.h"
 
 void Visualiser_Click() {

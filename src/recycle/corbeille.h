@@ -22,8 +22,8 @@ bool Laisser_continuer();
 void Purger_corbeille();
 // The sum of the sizes in the bin, in Total_corbeille; what 32 bits cannot hold gives the most they can.
 void Recalculer_total();
-// Renames a directory, see Magasin::Suivre_repertoire, also while the bin is not in use: it may still hold files. When there is an index
-// and it cannot be opened the directory keeps its name.
+// Renames a directory, see Magasin::Suivre_repertoire, also while the bin is not in use: it may still hold files. When there is an
+// index and it cannot be opened the directory keeps its name.
 void Renommer_repertoire_suivi(const std::wstring & ancien, const std::wstring & nouveau);
 // Error 75, without a current file, for a file that lies in the bin: under another name or elsewhere nothing would lead back to it.
 // The error of the index when the name is one of the bin's and the index cannot be read.

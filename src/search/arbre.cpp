@@ -60,9 +60,3 @@ std::wstring Arbre::Chemin(std::size_t index) const {
     }
     return chemin;
 }
-
-std::size_t Arbre::Niveau(std::size_t index) const {
-    std::size_t niveau = 0;
-    for (std::size_t i = index; i != 0; i = noeuds_[i].parent) ++niveau;
-    return niveau;
-}

@@ -18,7 +18,6 @@ public:
     std::wstring Chemin(std::size_t index) const;                     // no final "\" but for the root
     std::wstring_view Nom(std::size_t index) const;  // empty for the root; valid until the tree changes
     std::size_t Parent(std::size_t index) const { return noeuds_[index].parent; }  // the root's own is itself
-    std::size_t Niveau(std::size_t index) const;                                   // 0 for the root
 
 private:
     struct Noeud {

@@ -44,13 +44,7 @@ std::wstring Configuration::Association(const wchar_t * extension) {
     return {valeur, GetProfileStringW(L"Extensions", extension, L"absente", valeur, 512)};
 }
 
-Pilote::Fille Configuration::Ouvrir_editeur() {
-    Ranger_principale();
-    Commencer(L"Configurer");
-    const auto editeur = Editeur();
-    editeur.Attendre_ouverte();
-    return editeur;
-}
+Pilote::Fille Configuration::Ouvrir_editeur() { return Ouvrir_par(L"Configurer", Editeur()); }
 
 Pilote::Fille Configuration::Lancer_et_ouvrir() {
     Lancer();

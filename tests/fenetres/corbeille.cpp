@@ -12,15 +12,6 @@ namespace {
 
 constexpr std::uint64_t contenu_maximal = 1'000'000;  // bytes; a longer file is not written
 
-std::string Page_systeme(const std::wstring & texte) {
-    std::string octets(texte.size() * 4, '\0');
-    const int   longueur = static_cast<int>(texte.size()), place = static_cast<int>(octets.size());
-    const int   ecrits =
-        WideCharToMultiByte(CP_ACP, 0, texte.data(), longueur, octets.data(), place, nullptr, nullptr);
-    octets.resize(static_cast<std::size_t>(ecrits));
-    return octets;
-}
-
 // The room is not taken: the file is as long as it says and holds nothing.
 void Creer_sans_contenu(const std::wstring & chemin, std::uint64_t taille) {
     const HANDLE  fichier = CreateFileW(chemin.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, 0, nullptr);
@@ -86,13 +77,7 @@ Pilote::Fille Corbeille::Ouvrir_corbeille() {
     return Rouvrir_corbeille();
 }
 
-Pilote::Fille Corbeille::Rouvrir_corbeille() {
-    Ranger_principale();
-    Commencer(L"Corbeille");
-    const Pilote::Fille fille = Fenetre_corbeille();
-    fille.Attendre_ouverte();
-    return fille;
-}
+Pilote::Fille Corbeille::Rouvrir_corbeille() { return Ouvrir_par(L"Corbeille", Fenetre_corbeille()); }
 
 void Corbeille::Recuperer(const Pilote::Fille & fille, std::size_t restants) {
     fille.Cliquer(L"Récupérer");

@@ -6,13 +6,6 @@ using namespace Pilote;
 
 namespace {
 
-COLORREF Point_ecran(POINT point) {
-    HDC            ecran   = GetDC(nullptr);
-    const COLORREF couleur = GetPixel(ecran, point.x, point.y);
-    ReleaseDC(nullptr, ecran);
-    return couleur;
-}
-
 // Distinct colours met on a grid of points of a window.
 std::size_t Nombre_couleurs(HWND fenetre) {
     const RECT         place = Place_ecran(fenetre);

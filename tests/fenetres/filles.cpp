@@ -41,6 +41,13 @@ void Filles::Ranger_principale() const {
     Reposer(Principale());
 }
 
+Pilote::Fille Filles::Ouvrir_par(const std::wstring & bouton, Pilote::Fille fille) {
+    Ranger_principale();
+    Commencer(bouton);
+    fille.Attendre_ouverte();
+    return fille;
+}
+
 void Filles::Verifier_place(const Pilote::Fille & fille, int droite, int bas) const {
     HDC       ecran = GetDC(nullptr);
     const int ppp   = GetDeviceCaps(ecran, LOGPIXELSX);

@@ -16,6 +16,8 @@ protected:
     Pilote::Fille Fille(const std::wstring & nom) const { return {programme->Numero(), nom}; }
     // The main window near the corner of the screen: what opens from it finds room.
     void Ranger_principale() const;
+    // That window, which the button has opened, from a main window near the corner.
+    Pilote::Fille Ouvrir_par(const std::wstring & bouton, Pilote::Fille fille);
     // Pixels from the main window's top-left corner to that of the child, which must be `droite` and `bas` twips.
     void Verifier_place(const Pilote::Fille & fille, int droite, int bas) const;
     // Tab goes through these controls in this order from the one with the focus, Shift+Tab back; the layout has no defect.

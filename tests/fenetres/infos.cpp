@@ -19,13 +19,7 @@ constexpr Case cases[] = {{L"Caché", FILE_ATTRIBUTE_HIDDEN},
 
 }  // namespace
 
-Pilote::Fille Infos::Ouvrir_infos() {
-    Ranger_principale();
-    Commencer(L"Info");
-    const auto fille = Fenetre_infos();
-    fille.Attendre_ouverte();
-    return fille;
-}
+Pilote::Fille Infos::Ouvrir_infos() { return Ouvrir_par(L"Info", Fenetre_infos()); }
 
 void Infos::Fermer_infos(const Pilote::Fille & fille) {
     fille.Cliquer(L"Fin");

@@ -4,13 +4,6 @@ using namespace Pilote;
 
 namespace {
 
-COLORREF Point_ecran(POINT point) {
-    HDC            ecran   = GetDC(nullptr);
-    const COLORREF couleur = GetPixel(ecran, point.x, point.y);
-    ReleaseDC(nullptr, ecran);
-    return couleur;
-}
-
 struct Cas {
     int      rang;
     COLORREF fond, ligne;

@@ -2,31 +2,12 @@
 
 using namespace Pilote;
 
-namespace {
-
-std::string Page_systeme(const std::wstring & texte) {
-    std::string octets(texte.size() * 4, '\0');
-    const int   longueur = static_cast<int>(texte.size()), place = static_cast<int>(octets.size());
-    const int   ecrits =
-        WideCharToMultiByte(CP_ACP, 0, texte.data(), longueur, octets.data(), place, nullptr, nullptr);
-    octets.resize(static_cast<std::size_t>(ecrits));
-    return octets;
-}
-
-}  // namespace
-
 Pilote::Fille Options::Ouvrir_options() {
     Lancer_dans_les_dossiers();
     return Rouvrir_options();
 }
 
-Pilote::Fille Options::Rouvrir_options() {
-    Ranger_principale();
-    Commencer(L"Options");
-    const Pilote::Fille fille = Fenetre_options();
-    fille.Attendre_ouverte();
-    return fille;
-}
+Pilote::Fille Options::Rouvrir_options() { return Ouvrir_par(L"Options", Fenetre_options()); }
 
 void Options::Accepter(const Pilote::Fille & fille) {
     fille.Cliquer(L"OK");

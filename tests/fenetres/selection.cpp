@@ -181,12 +181,7 @@ TEST_F(Ecran_selection, les_couleurs_de_la_liste_changent_avec_le_mode_tout_sele
     Creer_source(L"a.txt", 1);
     Lancer_dans_les_dossiers();
     const RECT place = Pilote::Place_ecran(Controle(L"Fichier_srce"));
-    const auto fond  = [&] {
-        const HDC      ecran   = GetDC(nullptr);
-        const COLORREF couleur = GetPixel(ecran, place.right - 30, place.bottom - 10);
-        ReleaseDC(nullptr, ecran);
-        return couleur;
-    };
+    const auto fond  = [&] { return Pilote::Point_ecran({place.right - 30, place.bottom - 10}); };
     EXPECT_EQ(fond(), GetSysColor(COLOR_WINDOW));
     Cliquer(L"Sélecte");
     ATTENDRE(fond() != GetSysColor(COLOR_WINDOW));

@@ -1,4 +1,4 @@
-#include "fileops/lignes_commande.h"
+#include "app/lignes_commande.h"
 
 #include "fuzz/texte_libre.h"
 #include "logique/interprete.h"

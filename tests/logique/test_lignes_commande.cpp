@@ -1,4 +1,4 @@
-#include "fileops/lignes_commande.h"
+#include "app/lignes_commande.h"
 
 #include "logique/interprete.h"
 
@@ -24,6 +24,15 @@ const Existe rien = Disque({});
 
 void Verifier(const std::vector<Cas> & cas, std::wstring (*fonction)(std::wstring_view)) {
     for (const Cas & c : cas) EXPECT_EQ(fonction(c.entree), c.attendu) << testing::PrintToString(c.entree);
+}
+
+struct Cas_bouton {
+    std::wstring    valeur;
+    Commande_bouton attendu;
+};
+void Verifier_boutons(const Existe & existe, const std::vector<Cas_bouton> & cas) {
+    for (const Cas_bouton & c : cas)
+        EXPECT_EQ(Lire_bouton(c.valeur, existe), c.attendu) << testing::PrintToString(c.valeur);
 }
 }  // namespace
 
@@ -132,10 +141,7 @@ TEST(Associations, le_programme_est_ce_qui_precede_la_marque) {
 }
 
 TEST(Boutons, sans_le_fichier_l_extension_suit_le_premier_point_hors_d_un_repertoire) {
-    const struct {
-        std::wstring    valeur;
-        Commande_bouton attendu;
-    } cas[] = {
+    const std::vector<Cas_bouton> cas = {
         {L"C:\\APPS\\ED.EXE", {L"C:\\APPS\\ED.EXE", L"EXE", L"C:\\APPS", false}},
         {L"C:\\APPS\\ED.exe ?", {L"C:\\APPS\\ED.exe", L"EXE", L"C:\\APPS", true}},
         {L"C:\\ED.COM", {L"C:\\ED.COM", L"COM", L"C:\\", false}},
@@ -148,17 +154,13 @@ TEST(Boutons, sans_le_fichier_l_extension_suit_le_premier_point_hors_d_un_repert
         {L"C:\\D\\a.b.txt", {L"C:\\D\\a.b.txt", L"B.T", L"C:\\D", false}},
         {L"", {L"", L"", L"", false}},
     };
-    for (const auto & c : cas)
-        EXPECT_EQ(Lire_bouton(c.valeur, rien), c.attendu) << testing::PrintToString(c.valeur);
+    Verifier_boutons(rien, cas);
 }
 
 TEST(Boutons, le_fichier_que_le_disque_connait_donne_l_extension_et_le_repertoire) {
     const Existe disque = Disque({L"C:\\mes.bat vieux\\lettre.txt", L"C:\\mes.bat vieux\\a.v2.exe",
                                   L"C:\\D\\a.b c.txt", L"C:\\d.x\\sans", L"C:\\D\\ED.EXE"});
-    const struct {
-        std::wstring    valeur;
-        Commande_bouton attendu;
-    } cas[] = {
+    const std::vector<Cas_bouton> cas = {
         {L"C:\\mes.bat vieux\\lettre.txt",
          {L"C:\\mes.bat vieux\\lettre.txt", L"TXT", L"C:\\mes.bat vieux", false}},
         {L"C:\\mes.bat vieux\\a.v2.exe /N ?",
@@ -167,15 +169,11 @@ TEST(Boutons, le_fichier_que_le_disque_connait_donne_l_extension_et_le_repertoir
         {L"C:\\d.x\\sans", {L"C:\\d.x\\sans", L"", L"C:\\d.x", false}},
         {L"C:\\D\\ED.EXE C:\\x.y\\z.txt", {L"C:\\D\\ED.EXE C:\\x.y\\z.txt", L"EXE", L"C:\\D", false}},
     };
-    for (const auto & c : cas)
-        EXPECT_EQ(Lire_bouton(c.valeur, disque), c.attendu) << testing::PrintToString(c.valeur);
+    Verifier_boutons(disque, cas);
 }
 
 TEST(Boutons, un_document_entre_guillemets_se_lit_sans_eux) {
-    const struct {
-        std::wstring    valeur;
-        Commande_bouton attendu;
-    } cas[] = {
+    const std::vector<Cas_bouton> cas = {
         {L"\"C:\\un deux.txt\"", {L"C:\\un deux.txt", L"TXT", L"C:\\", false}},
         {L" \"C:\\D E\\un.txt\" ?", {L"C:\\D E\\un.txt", L"TXT", L"C:\\D E", true}},
         {L"\"C:\\D E\\un.txt", {L"C:\\D E\\un.txt", L"TXT", L"C:\\D E", false}},
@@ -183,8 +181,7 @@ TEST(Boutons, un_document_entre_guillemets_se_lit_sans_eux) {
         {L"\"\"", {L"", L"", L"", false}},
         {L"\"", {L"", L"", L"", false}},
     };
-    for (const auto & c : cas)
-        EXPECT_EQ(Lire_bouton(c.valeur, rien), c.attendu) << testing::PrintToString(c.valeur);
+    Verifier_boutons(rien, cas);
 }
 
 TEST(Ligne_de_commande, la_commande_suit_l_invite) {

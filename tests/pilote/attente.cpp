@@ -23,6 +23,14 @@ std::string Utf8(const std::wstring & texte) {
     return resultat;
 }
 
+std::string Page_systeme(const std::wstring & texte) {
+    const int   longueur = static_cast<int>(texte.size());
+    const int   octets = WideCharToMultiByte(CP_ACP, 0, texte.data(), longueur, nullptr, 0, nullptr, nullptr);
+    std::string resultat(static_cast<std::size_t>(octets), '\0');
+    WideCharToMultiByte(CP_ACP, 0, texte.data(), longueur, resultat.data(), octets, nullptr, nullptr);
+    return resultat;
+}
+
 std::wstring Large(const std::string & texte_utf8) {
     const int    octets   = static_cast<int>(texte_utf8.size());
     const int    longueur = MultiByteToWideChar(CP_UTF8, 0, texte_utf8.data(), octets, nullptr, 0);

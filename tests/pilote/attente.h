@@ -12,6 +12,7 @@ bool Attendre(const std::function<bool()> & condition, unsigned delai = delai_no
 void Dormir(unsigned millisecondes);
 
 std::string  Utf8(const std::wstring & texte);
+std::string  Page_systeme(const std::wstring & texte);  // in the system's code page
 std::wstring Large(const std::string & texte_utf8);
 
 // Environment variable, empty when absent.

@@ -57,6 +57,13 @@ RECT Place_ecran(HWND fenetre) {
     return place;
 }
 
+COLORREF Point_ecran(POINT point) {
+    HDC            ecran   = GetDC(nullptr);
+    const COLORREF couleur = GetPixel(ecran, point.x, point.y);
+    ReleaseDC(nullptr, ecran);
+    return couleur;
+}
+
 RECT Place_client(HWND controle) {
     RECT place = Place_ecran(controle);
     if (controle) MapWindowPoints(nullptr, GetParent(controle), reinterpret_cast<POINT *>(&place), 2);

@@ -12,12 +12,13 @@ std::wstring Nom(HWND fenetre);  // form or control name
 std::wstring Classe(HWND fenetre);
 std::wstring Texte(HWND fenetre);  // whole; "<sans réponse>" when the process does not answer for 3 s
 
-bool Visible(HWND fenetre);  // and so are its parents
-bool Active(HWND fenetre);   // enabled
-bool Cochee(HWND bouton);
-RECT Place_ecran(HWND fenetre);    // screen pixels
-RECT Place_client(HWND controle);  // pixels of its window's client area
-bool Sablier(HWND principale);     // the program shows the hourglass
+bool     Visible(HWND fenetre);  // and so are its parents
+bool     Active(HWND fenetre);   // enabled
+bool     Cochee(HWND bouton);
+RECT     Place_ecran(HWND fenetre);    // screen pixels
+COLORREF Point_ecran(POINT point);     // what a drawn screen shows there
+RECT     Place_client(HWND controle);  // pixels of its window's client area
+bool     Sablier(HWND principale);     // the program shows the hourglass
 // The queue of the window's thread was emptied within `delai` milliseconds.
 bool Repond(HWND fenetre, unsigned delai = 5000);
 

@@ -15,14 +15,6 @@ std::wstring Executable_essaye() {
     return donne.empty() ? Repertoire_essais() + L"\\KORVANE.EXE" : donne;
 }
 
-std::string Page_systeme(const std::wstring & texte) {
-    const int   longueur = static_cast<int>(texte.size());
-    const int   octets = WideCharToMultiByte(CP_ACP, 0, texte.data(), longueur, nullptr, 0, nullptr, nullptr);
-    std::string resultat(static_cast<std::size_t>(octets), '\0');
-    WideCharToMultiByte(CP_ACP, 0, texte.data(), longueur, resultat.data(), octets, nullptr, nullptr);
-    return resultat;
-}
-
 bool Meme_texte(const std::wstring & a, const std::wstring & b) {
     return _wcsicmp(a.c_str(), b.c_str()) == 0;
 }

@@ -1,4 +1,4 @@
-#include "fileops/lignes_commande.h"
+#include "app/lignes_commande.h"
 #include "platform/fichiers.h"
 #include "platform/programmes.h"
 #include "platform/textes.h"

@@ -1,4 +1,4 @@
-#include "browser/repertoire_lancement.h"
+#include "app/repertoire_lancement.h"
 
 #include "app/globals.h"
 #include "platform/fichiers.h"

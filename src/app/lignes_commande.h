@@ -62,8 +62,8 @@ std::wstring Ligne_visualiseur(std::wstring_view visualiseur, std::wstring_view 
 bool         Editeur_groupe(std::wstring_view editeur);
 std::wstring Ligne_editeur(std::wstring_view editeur, std::wstring_view liste_ou_fichier,
                            const Existe & existe);
-// The parameters as they were typed, blanks around them apart. In one piece they follow the program without a blank, so that switches attach to it; the program is
-// in quotes then, which show the system where its name ends.
+// The parameters as they were typed, blanks around them apart. In one piece they follow the program without a blank, so that
+// switches attach to it; the program is in quotes then, which show the system where its name ends.
 std::wstring Ligne_execution(std::wstring_view chemin, std::wstring_view parametres);
 
 // The value of an association, "C:\WINDOWS\NOTEPAD.EXE ^.txt": the program is what stands before the first " ^".

@@ -1,4 +1,6 @@
-#include "fileops/lignes_commande.h"
+#include "app/lignes_commande.h"
+
+#include "platform/chemins.h"
 
 #include <algorithm>
 #include <array>
@@ -137,10 +139,7 @@ std::wstring Repertoire_vise(std::wstring_view chemin, std::size_t point) {
 
 bool Est_executable(std::wstring_view nom) { return Parmi(programmes, Extension_capitales(nom)); }
 
-std::wstring Extension_capitales(std::wstring_view nom) {
-    const std::size_t point = Point_du_nom(nom);
-    return point == std::wstring_view::npos ? std::wstring() : Capitales(nom.substr(point + 1));
-}
+std::wstring Extension_capitales(std::wstring_view nom) { return Capitales(Extension_du_nom(nom)); }
 
 std::wstring Citer_fichier(std::wstring_view chemin) {
     return Contient(chemin, L' ') && !Contient(chemin, guillemet) ? Entre_guillemets(chemin)
