@@ -1,32 +1,27 @@
 #include "platform/chemins.h"
 
+#include "fuzz/exiger.h"
 #include "fuzz/texte_libre.h"
 
-#include <cstdlib>
-
 namespace {
-
-void exiger(bool vrai) {
-    if (!vrai) std::abort();
-}
 
 double longueur(std::wstring_view texte) { return static_cast<double>(texte.size()); }
 
 void eprouver_raccourcir(const std::wstring & chemin, double largeur) {
     const std::wstring court = Raccourcir(chemin, largeur, longueur, L"c:");
-    if (longueur(chemin) <= largeur) return exiger(court == chemin);
+    if (longueur(chemin) <= largeur) return Exiger(court == chemin);
     // Whole directories go, never part of a name.
     const std::wstring_view fin = std::wstring_view(court).substr(10);
-    exiger(court.substr(2, 8) == L"\\ . . .\\" && chemin.ends_with(fin));
-    exiger(fin.size() == chemin.size() || chemin[chemin.size() - fin.size() - 1] == L'\\');
+    Exiger(court.substr(2, 8) == L"\\ . . .\\" && chemin.ends_with(fin));
+    Exiger(fin.size() == chemin.size() || chemin[chemin.size() - fin.size() - 1] == L'\\');
 }
 
 void eprouver_nom(const std::wstring & repertoire, const std::wstring & nom) {
     if (!Nom_simple(nom)) return;
     // A bare name stays in the directory that it was joined to.
     const std::wstring chemin = Joindre(repertoire, nom);
-    exiger(Nom_du_chemin(chemin) == nom && chemin.starts_with(repertoire));
-    exiger(nom.find_first_of(L"\\/:*?") == nom.npos && nom != L"." && nom != L"..");
+    Exiger(Nom_du_chemin(chemin) == nom && chemin.starts_with(repertoire));
+    Exiger(nom.find_first_of(L"\\/:*?") == nom.npos && nom != L"." && nom != L"..");
 }
 
 }  // namespace
@@ -36,10 +31,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * donnees, std::size_t 
     eprouver_raccourcir(chemin, static_cast<double>(nom.size()) - 4);
     eprouver_nom(chemin, nom);
 
-    exiger(chemin.starts_with(Repertoire_du_chemin(chemin)));
-    exiger(chemin.ends_with(Nom_du_chemin(chemin)));
-    exiger(chemin.ends_with(Extension_du_nom(chemin)));
+    Exiger(chemin.starts_with(Repertoire_du_chemin(chemin)));
+    Exiger(chemin.ends_with(Nom_du_chemin(chemin)));
+    Exiger(chemin.ends_with(Extension_du_nom(chemin)));
     const std::wstring sans = Sans_barre_finale(chemin);
-    exiger(chemin.starts_with(sans) && Sans_barre_finale(sans) == sans);
+    Exiger(chemin.starts_with(sans) && Sans_barre_finale(sans) == sans);
     return 0;
 }

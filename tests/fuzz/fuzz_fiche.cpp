@@ -2,28 +2,23 @@
 #include "platform/utf8.h"
 #include "recycle/lignes.h"
 
+#include "fuzz/exiger.h"
 #include "fuzz/texte_libre.h"
-
-#include <cstdlib>
 
 namespace {
 
-void exiger(bool vrai) {
-    if (!vrai) std::abort();
-}
-
 std::string Sans_fin(std::string ligne) {
-    exiger(ligne.ends_with("\r\n"));
+    Exiger(ligne.ends_with("\r\n"));
     ligne.resize(ligne.size() - 2);
     return ligne;
 }
 
 // Whatever was read is written so that the same is read again.
 void Verifier(const Fiche & fiche) {
-    exiger(fiche.code.size() == 12 && fiche.Jour() >= 10000 && fiche.Jour() <= 99999);
-    exiger(!fiche.nom.empty() && fiche.nom.find_first_of(L"\\/:") == fiche.nom.npos);
-    exiger(fiche.repertoire.size() >= 3 && fiche.repertoire[1] == L':' && fiche.repertoire.back() == L'\\');
-    exiger(Lire_fiche(Sans_fin(Ecrire_fiche(fiche, Page_essai())), Page_essai()) == fiche);
+    Exiger(fiche.code.size() == 12 && fiche.Jour() >= 10000 && fiche.Jour() <= 99999);
+    Exiger(!fiche.nom.empty() && fiche.nom.find_first_of(L"\\/:") == fiche.nom.npos);
+    Exiger(fiche.repertoire.size() >= 3 && fiche.repertoire[1] == L':' && fiche.repertoire.back() == L'\\');
+    Exiger(Lire_fiche(Sans_fin(Ecrire_fiche(fiche, Page_essai())), Page_essai()) == fiche);
 }
 
 // A record of any name either reads back as it is or not at all.
@@ -31,7 +26,7 @@ void Verifier_nom(const std::wstring & nom) {
     const Fiche       fiche{L"crb35000.007", nom.size(), nom, L"C:\\DOCS\\"};
     const std::string ecrite = Ecrire_fiche(fiche, Page_essai());
     const auto        relue  = Lire_fiche(Sans_fin(ecrite), Page_essai());
-    exiger(!relue || *relue == fiche);
+    Exiger(!relue || *relue == fiche);
 }
 
 }  // namespace
@@ -40,15 +35,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * donnees, std::size_t 
     const std::string octets(reinterpret_cast<const char *>(donnees), taille);
     if (const auto fiche = Lire_fiche(octets, Page_essai())) Verifier(*fiche);
     if (const auto fiche = Lire_fiche("crb35000.007 00012345 " + octets, Page_essai())) Verifier(*fiche);
-    if (const auto texte = De_utf8(octets)) exiger(De_utf8(En_utf8(*texte)) == texte);
+    if (const auto texte = De_utf8(octets)) Exiger(De_utf8(En_utf8(*texte)) == texte);
     Verifier_nom(Texte_libre(donnees, taille));
 
     std::string recolles;
     for (const Ligne_index & ligne : Decouper_index(octets, Page_essai())) {
-        exiger(ligne.Entiere() || recolles.size() + ligne.octets.size() == octets.size());
+        Exiger(ligne.Entiere() || recolles.size() + ligne.octets.size() == octets.size());
         if (ligne.fiche) Verifier(*ligne.fiche);
         recolles += ligne.octets;
     }
-    exiger(recolles == octets);
+    Exiger(recolles == octets);
     return 0;
 }

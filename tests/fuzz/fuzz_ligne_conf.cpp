@@ -1,15 +1,8 @@
 #include "config/ligne_conf.h"
 
+#include "fuzz/exiger.h"
 #include "fuzz/texte_libre.h"
 #include "platform/valeur_profil.h"
-
-#include <cstdlib>
-
-namespace {
-void Exiger(bool vrai) {
-    if (!vrai) std::abort();
-}
-}  // namespace
 
 // What the buttons allow to save is written, read back and split again as the same line.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * donnees, std::size_t taille) {

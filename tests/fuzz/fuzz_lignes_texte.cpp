@@ -1,14 +1,11 @@
 #include "texte/lignes.h"
 
+#include "fuzz/exiger.h"
+
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
 namespace {
-void Exiger(bool vrai) {
-    if (!vrai) std::abort();
-}
-
 // The lines joined by their count and lengths, whatever the blocks.
 std::string Trace(std::string_view texte, std::size_t bloc, Codage codage) {
     std::string  trace;

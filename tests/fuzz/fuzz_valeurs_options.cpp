@@ -2,26 +2,17 @@
 #include "config/valeurs_options.h"
 #include "platform/nombres.h"
 
+#include "fuzz/exiger.h"
 #include "fuzz/texte_libre.h"
-
-#include <cstdlib>
-
-namespace {
-
-void exiger(bool vrai) {
-    if (!vrai) std::abort();
-}
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * donnees, std::size_t taille) {
     const std::wstring texte     = Texte_libre(donnees, taille);
     const std::wstring programme = Programme_ecrit(texte, L"PELMIRA.EXE");
-    exiger(!programme.empty() && Programme_ecrit(programme, L"X") == programme);
+    Exiger(!programme.empty() && Programme_ecrit(programme, L"X") == programme);
     const std::wstring ecrit = Depart_ecrit(Depart_lu(texte), texte);
-    exiger(!ecrit.empty() && Depart_ecrit(Depart_lu(ecrit), ecrit) == ecrit);
+    Exiger(!ecrit.empty() && Depart_ecrit(Depart_lu(ecrit), ecrit) == ecrit);
     const int couleur = Couleur_permise(Valeur(texte));
-    exiger(couleur >= 0 && couleur <= derniere_couleur);
-    exiger(Contraste(Couleurs_du_cadre(couleur).fond, Couleurs_du_cadre(couleur).encre) >= 4.5);
+    Exiger(couleur >= 0 && couleur <= derniere_couleur);
+    Exiger(Contraste(Couleurs_du_cadre(couleur).fond, Couleurs_du_cadre(couleur).encre) >= 4.5);
     return 0;
 }

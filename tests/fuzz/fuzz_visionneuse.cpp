@@ -1,3 +1,4 @@
+#include "fuzz/exiger.h"
 #include "fuzz/texte_libre.h"
 #include "visionneuse/arguments.h"
 #include "visionneuse/index_lignes.h"
@@ -5,13 +6,8 @@
 #include "visionneuse/rangees_texte.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace {
-
-void exiger(bool vrai) {
-    if (!vrai) std::abort();
-}
 
 const Page_ansi & Page() {
     static const Page_ansi page = [] {
@@ -30,9 +26,9 @@ const Page_ansi & Page() {
 void Parcourir(Contenu_rangees & contenu) {
     for (std::uint64_t p = contenu.Debut(); p < contenu.Longueur();) {
         const Rangee rangee = contenu.Lire(p);
-        exiger(rangee.debut == p && rangee.suite > p);
-        exiger(rangee.octets.size() == rangee.texte.size() + 1);
-        exiger(contenu.Lire(std::min(rangee.suite, contenu.Longueur()) - 1).debut == p);
+        Exiger(rangee.debut == p && rangee.suite > p);
+        Exiger(rangee.octets.size() == rangee.texte.size() + 1);
+        Exiger(contenu.Lire(std::min(rangee.suite, contenu.Longueur()) - 1).debut == p);
         p = rangee.suite;
     }
 }
@@ -62,11 +58,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t * donnees, std::size_t 
     Index_lignes index(octets, decodeur, debut);
     while (index.Avancer(7)) {
     }
-    exiger(index.Nombre() <= contenu.size());
+    Exiger(index.Nombre() <= contenu.size());
 
     std::wstring ligne = Texte_libre(donnees, taille);
     std::replace(ligne.begin(), ligne.end(), L'\0', L' ');  // which ends a command line
     const Arguments lus = Lire_arguments(ligne);
-    exiger(Deballer(Emballer(lus.fichiers)) == lus.fichiers);
+    Exiger(Deballer(Emballer(lus.fichiers)) == lus.fichiers);
     return 0;
 }
