@@ -92,9 +92,9 @@ void Ecrire(const std::string & nom, const std::string & section, const Changeme
             const std::wstring & fichier) {
     const std::string cle = En_ansi(changement.cle);
     if (!changement.valeur) {
-        // Some systems refuse to remove a key that is not there.
-        if (Valeur_presente(nom, section, cle)) Poser(nom, section, cle, nullptr, fichier);
-        return;
+        // Some systems refuse to remove a key that is not there. One in a locked file only looks as if it were not.
+        if (Valeur_presente(nom, section, cle)) return Poser(nom, section, cle, nullptr, fichier);
+        return Exiger_lisible(fichier);
     }
     const std::string valeur   = En_ansi(*changement.valeur);
     const std::string formes[] = {En_ansi(Valeur_protegee(*changement.valeur)), valeur};

@@ -275,6 +275,7 @@ TEST_F(Profil, un_fichier_ouvert_ailleurs_s_ecrit_sur_place_et_un_fichier_verrou
         const auto verrouille = tenir(0);
         EXPECT_EQ(70, Numero_leve([&] { Exiger_lisible(ini_); }));
         EXPECT_EQ(75, Numero_leve([&] { Ecrire_profil(ini_, L"Boutons", L"Trois", L"3"); }));
+        EXPECT_EQ(70, Numero_leve([&] { Ecrire_profil(ini_, L"Boutons", L"Un", std::nullopt); }));
     }
     EXPECT_EQ("[Boutons]\r\nUn=1\r\nDeux=2\r\n", Contenu(ini_));
     EXPECT_FALSE(Present(ini_ + L".krv~"));
