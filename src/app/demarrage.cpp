@@ -9,8 +9,10 @@
 #include "browser/panneaux.h"
 #include "forms/apropos.h"
 #include "forms/gestion_fichiers.h"
+#include "platform/chemins.h"
 #include "platform/fichiers.h"
 #include "platform/nombres.h"
+#include "platform/profil.h"
 #include "platform/systeme.h"
 #include "platform/textes.h"
 #include "recycle/corbeille.h"
@@ -109,9 +111,19 @@ void Ouvrir_et_purger_corbeille() {
     Purger_corbeille();
 }
 
+// Defaults in the place of settings that are there would switch the recycle bin off without a word. Read once the report is closed,
+// they may be free again.
+void Exiger_reglages() {
+    variables.Fichier_courant = Nom_du_chemin(variables.Fichier_ini);
+    Pieger(etape, [] { Exiger_lisible(variables.Fichier_ini); });
+    variables.Fichier_courant.clear();
+    Lire_iconise();
+}
+
 // Each step has its own trap: a failing one is reported and the next ones still run.
 void Executer_etapes(Gestion_Fichiers & f) {
     Pieger(etape, [&] { Preparer_controles(f); });
+    Exiger_reglages();
     Pieger(etape, [&] {
         Placer_fenetre(f);
         Situer_profil();

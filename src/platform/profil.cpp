@@ -1,5 +1,6 @@
 #include "platform/profil.h"
 
+#include "platform/droits.h"
 #include "platform/erreur.h"
 #include "platform/fichiers.h"
 #include "platform/poignee.h"
@@ -91,9 +92,9 @@ void Ecrire(const std::string & nom, const std::string & section, const Changeme
             const std::wstring & fichier) {
     const std::string cle = En_ansi(changement.cle);
     if (!changement.valeur) {
-        // Some systems refuse to remove a key that is not there.
-        if (Valeur_presente(nom, section, cle)) Poser(nom, section, cle, nullptr, fichier);
-        return;
+        // Some systems refuse to remove a key that is not there. One in a locked file only looks as if it were not.
+        if (Valeur_presente(nom, section, cle)) return Poser(nom, section, cle, nullptr, fichier);
+        return Exiger_lisible(fichier);
     }
     const std::string valeur   = En_ansi(*changement.valeur);
     const std::string formes[] = {En_ansi(Valeur_protegee(*changement.valeur)), valeur};
@@ -169,7 +170,7 @@ private:
 
 // The system writes the whole file again, and not every system tells when the disk was full before the end.
 void Exiger_place(const std::wstring & fichier, const std::vector<Changement_profil> & changements) {
-    std::uint64_t taille = Longueur_fichier(fichier) + marge_disque;
+    std::uint64_t taille = marge_disque + (Fichier_existe(fichier) ? Longueur_fichier(fichier) : 0);
     for (const Changement_profil & c : changements)
         taille += c.cle.size() + (c.valeur ? c.valeur->size() : 0);
     const std::wstring repertoire = fichier.substr(0, fichier.rfind(L'\\') + 1);
@@ -206,7 +207,10 @@ bool Changer_par_copie(const std::wstring & fichier, const std::string & section
     Exiger_place(fichier, changements);
     for (const Changement_profil & changement : changements) Ecrire(*nom, section, changement, fichier);
     copie->Fixer();
-    return Inchange(fichier, avant) && copie->Remplacer(fichier);
+    const Droits droits(fichier);
+    if (!Inchange(fichier, avant) || !copie->Remplacer(fichier)) return false;
+    droits.Rendre(fichier);
+    return true;
 }
 
 // A link would become a file of its own; one that is not there yet has nothing to lose.
@@ -273,6 +277,7 @@ void Changer_profil(const std::wstring & fichier, const wchar_t * section,
         Refuser(ERROR_ACCESS_DENIED, fichier);
     if (Copiable(*nom) && Changer_par_copie(fichier, En_ansi(section), changements))
         return Vider_memoire(*nom);
+    if (*nom != win_ini) Exiger_place(fichier, changements);
     Changer_sur_place(*nom, En_ansi(section), changements, fichier);
 }
 

@@ -28,8 +28,9 @@ struct Changement_profil {
 // disk or a power cut leaves the former. WIN.INI, which the system may keep elsewhere, and a file in a directory that takes no
 // other are changed in place; a key changed before a failure is given its value back. What Lire_profil gives afterwards is what
 // was written, outer blanks and quotes included. Programs that change files by it take turns, and what others write meanwhile is
-// kept. Errors: 61 disk full; 70 when the turn does not come; 75 when the file cannot be written, or when the code page
-// cannot hold a key or a value: a "?" in their place would be another key, another program; 6 when a value is too long.
+// kept. Errors: 61 disk full; 70 when the turn does not come, or when another program has locked the file that a key is to leave;
+// 75 when the file cannot be written, or when the code page cannot hold a key or a value: a "?" in their place would be another
+// key, another program; 6 when a value is too long.
 void Changer_profil(const std::wstring & fichier, const wchar_t * section,
                     const std::vector<Changement_profil> & changements);
 // The same for one key.

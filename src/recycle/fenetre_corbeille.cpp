@@ -174,7 +174,7 @@ void Fin_Click(Corbeille & w) {
     Pieger(
         etape_fin, [&] { fermer = Terminer(w); },
         [&] {
-            Lire_limites_corbeille();
+            Tenter(Relire_limites);
             Montrer_fichiers(w);
             if (Magasin_corbeille().Ouvert()) Enregistrer_total();
         });

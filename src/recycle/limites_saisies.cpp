@@ -106,7 +106,7 @@ void Enregistrer_limites(Corbeille & w) {
     const std::wstring taille = w.Taille.Text();
     Ecrire_cles(taille, taille.empty() ? w.Temps.Text() : std::wstring());
     if (!taille.empty()) w.Temps.Text(L"");
-    Lire_limites_corbeille();
+    Relire_limites();
     w.Limites_retirees = !variables.Corbeille_active;
 }
 
@@ -114,5 +114,10 @@ void Rendre_limites(Corbeille & w) {
     if (!w.Limites_retirees) return;
     w.Limites_retirees = false;
     Ecrire_cles(w.Taille_avant, w.Temps_avant);
+    Relire_limites();
+}
+
+void Relire_limites() {
+    Exiger_lisible(variables.Fichier_ini);
     Lire_limites_corbeille();
 }

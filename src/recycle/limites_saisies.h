@@ -14,3 +14,5 @@ bool Verifier_limites(Corbeille & w);
 void Enregistrer_limites(Corbeille & w);
 // Undoes Enregistrer_limites for a bin that was to be destroyed and was not.
 void Rendre_limites(Corbeille & w);
+// Puts in force what the settings file says. One that cannot be read says nothing: those in force stay, and its error is raised.
+void Relire_limites();

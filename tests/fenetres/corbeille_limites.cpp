@@ -147,6 +147,23 @@ TEST_F(Corbeille_limites, des_reglages_proteges_en_ecriture_sont_signales_et_la_
     EXPECT_EQ(Cle(L"Taille"), L"50");
 }
 
+// Read as they are then, they would be no limits at all: the bin would be out of use, and the next erasure final.
+TEST_F(Corbeille_limites, des_reglages_verrouilles_laissent_la_corbeille_en_service_avec_sa_limite) {
+    Mettre_trois();
+    const auto fille = Ouvrir_corbeille();
+    HANDLE verrou = CreateFileW(Fichier_ini().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(verrou, INVALID_HANDLE_VALUE);
+    Fixer(fille, L"1", L"");
+    fille.Cliquer(L"Fin");
+    Attendre_protege(L"KORVANE.INI");
+    CloseHandle(verrou);
+    fille.Fermer_par_la_croix();
+    fille.Attendre_fermee();
+    const auto rouverte = Rouvrir_corbeille();
+    EXPECT_EQ(rouverte.Lire(L"Taille"), L"9999");
+    Attendre_restants(rouverte, 3);
+}
+
 TEST_F(Corbeille_limites, zero_est_refuse_la_fenetre_reste_et_rien_n_est_ecrit_ni_purge) {
     Mettre_trois();
     const auto                                        fille   = Ouvrir_corbeille();

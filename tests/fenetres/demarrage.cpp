@@ -188,6 +188,22 @@ TEST_F(Demarrage, une_unite_absente_est_signalee_puis_les_deux_volets_sont_sur_l
     Verifier_unites(L'c');
 }
 
+TEST_F(Demarrage, des_reglages_verrouilles_sont_signales_puis_lus_une_fois_libres) {
+    Regler(L"Boutons", L"Bloc", L"NOTEPAD.EXE");
+    Lancer();
+    Fermer();
+    HANDLE verrou = CreateFileW(Fichier_ini().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(verrou, INVALID_HANDLE_VALUE);
+    programme = std::make_unique<Programme>(dossier / L"programme\\KORVANE.EXE", L"", dossier.Chemin());
+    const HWND boite = Attendre_boite_visible(programme->Numero(), 5000);
+    CloseHandle(verrou);
+    ASSERT_NE(boite, nullptr);
+    EXPECT_EQ(Texte(boite), titre);
+    EXPECT_TRUE(Repondre_boite(boite, IDOK));
+    Attendre_pret();
+    EXPECT_TRUE(Se_voit(L"Bouton(0)"));
+}
+
 class Demarrage_D : public Demarrage {};
 
 TEST_F(Demarrage_D, un_repertoire_d_une_autre_unite_choisit_cette_unite_dans_les_deux_volets) {

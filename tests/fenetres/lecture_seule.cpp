@@ -60,8 +60,10 @@ TEST_F(Lecture_seule_D,
     EXPECT_EQ(corbeille.Lire(L"Taille"), L"5000");
     corbeille.Choisir(L"Fichier_effacé", {0});
     corbeille.Cliquer(L"Récupérer");
-    Attendre_refus();
     ATTENDRE(corbeille.Entrees(L"Fichier_effacé").empty());
+    // The bin is as empty as its settings say.
+    Reposer(Principale());
+    EXPECT_TRUE(Boite_absente());
     EXPECT_EQ(Empreinte(travail / L"a\\lettre.txt"), Empreinte(travail / L"b\\lettre.txt"));
     corbeille.Remplacer(L"Taille", L"6000");
     corbeille.Cliquer(L"Fin");

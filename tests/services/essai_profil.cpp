@@ -3,6 +3,8 @@
 #include "platform/profil.h"
 #include "services/banc.h"
 
+#include <sddl.h>
+
 #include <string>
 #include <thread>
 
@@ -222,6 +224,29 @@ TEST_F(Profil, un_fichier_cache_garde_ses_attributs_ses_remarques_et_l_ordre_de_
     EXPECT_EQ(attributs, Attributs(ini_));
 }
 
+// The mark of other users' rights, which a new file in that directory would not have.
+TEST_F(Profil, un_fichier_que_d_autres_peuvent_ecrire_le_reste) {
+    const auto droits = [](const std::wstring & chemin) {
+        std::string octets(1024, '\0');
+        DWORD       taille = 0;
+        EXPECT_TRUE(
+            GetFileSecurityW(chemin.c_str(), DACL_SECURITY_INFORMATION, octets.data(), 1024, &taille));
+        return octets.substr(0, taille);
+    };
+    Poser(ini_, "[Boutons]\r\nUn=1\r\n");
+    const std::string    habituels   = droits(ini_);
+    PSECURITY_DESCRIPTOR descripteur = nullptr;
+    ASSERT_TRUE(ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:P(A;;FA;;;WD)", SDDL_REVISION_1,
+                                                                     &descripteur, nullptr));
+    EXPECT_TRUE(SetFileSecurityW(ini_.c_str(), DACL_SECURITY_INFORMATION, descripteur));
+    LocalFree(descripteur);
+    const std::string donnes = droits(ini_);
+    ASSERT_NE(habituels, donnes);
+    Ecrire_profil(ini_, L"Boutons", L"Un", L"2");
+    EXPECT_EQ("[Boutons]\r\nUn=2\r\n", Contenu(ini_));
+    EXPECT_TRUE(donnes == droits(ini_));
+}
+
 // The copy's name is longer than what the file's own calls take.
 TEST_F(Profil, un_chemin_presque_trop_long_ne_laisse_pas_de_copie) {
     const std::wstring haut = Repertoire(std::wstring(100, L'h'));
@@ -250,6 +275,7 @@ TEST_F(Profil, un_fichier_ouvert_ailleurs_s_ecrit_sur_place_et_un_fichier_verrou
         const auto verrouille = tenir(0);
         EXPECT_EQ(70, Numero_leve([&] { Exiger_lisible(ini_); }));
         EXPECT_EQ(75, Numero_leve([&] { Ecrire_profil(ini_, L"Boutons", L"Trois", L"3"); }));
+        EXPECT_EQ(70, Numero_leve([&] { Ecrire_profil(ini_, L"Boutons", L"Un", std::nullopt); }));
     }
     EXPECT_EQ("[Boutons]\r\nUn=1\r\nDeux=2\r\n", Contenu(ini_));
     EXPECT_FALSE(Present(ini_ + L".krv~"));
@@ -306,6 +332,25 @@ ESSAI_UNITE(A, sur_un_disque_plein_les_reglages_restent_entiers) {
         EXPECT_FALSE(Present(L"a:\\ESSAI.INI.krv~"));
     }
     Vider_repertoire(L"a:");
+}
+
+// The copy cannot be made, and writing in place would cut the file.
+ESSAI_UNITE(A, un_disque_plein_laisse_les_reglages_entiers_quand_aucune_copie_n_est_possible) {
+    const std::wstring ini   = L"A:\\ESSAI.INI";
+    const std::string  avant = "[Boutons]\r\nUn=1\r\n";
+    Vider_repertoire(L"A:\\");
+    Poser(ini, avant);
+    ASSERT_TRUE(CreateDirectoryW((ini + L".krv~").c_str(), nullptr));
+    ULARGE_INTEGER libre{};
+    ASSERT_TRUE(GetDiskFreeSpaceExW(L"A:\\", &libre, nullptr, nullptr));
+    Poser(L"A:\\BOURRE.DAT", std::string(static_cast<std::size_t>(libre.QuadPart), 'x'));
+    for (const wchar_t * nom : {L"A:\\ESSAI.INI", L"A:\\NOUVEAU.INI"})
+        EXPECT_EQ(61, Numero_leve([&] {
+                      Changer_profil(nom, L"Boutons", {{L"Deux", std::wstring(6000, L'x')}});
+                  }));
+    EXPECT_EQ(avant, Contenu(ini));
+    EXPECT_FALSE(Present(L"A:\\NOUVEAU.INI"));
+    Vider_repertoire(L"A:\\");
 }
 
 }  // namespace
