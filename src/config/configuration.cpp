@@ -148,6 +148,8 @@ void Parcourir_Click(Config_Korvane & w) {
         if (!fichier.empty()) w.Ligne_conf.Text(Composer_ligne(ligne, fichier, genre));
     });
     w.Ligne_conf.SetFocus();
+    // Where " ?" is typed next.
+    w.Ligne_conf.Selectionner(static_cast<int>(w.Ligne_conf.Text().size()), 0);
 }
 
 // A line is the key of one section of one file: the "?" that would stand for such a character would name another program.

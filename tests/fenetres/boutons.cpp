@@ -240,7 +240,7 @@ TEST_F(Boutons, un_programme_qui_ne_part_pas_est_nomme_et_la_fenetre_reste_utili
     Attendre_avertissement(L"Fichier non exécutable :FAUX.EXE\rseuls les programmes avec les extensions COM, "
                            L"EXE, BAT ou PIF sont exécutables.");
     EXPECT_TRUE(Est_actif(L"Croiser"));
-    EXPECT_EQ(Nom_du_focus(), Nom_du_bouton(L"Faux"));
+    ATTENDRE(Nom_du_focus() == Nom_du_bouton(L"Faux"));
     Cliquer_bouton(L"Bon");
     Attendre_lance(outils + L"\\X.EXE", outils);
 }

@@ -60,7 +60,7 @@ protected:
         Fleches_jusqu_a(L"Répertoire_" + cote, entree);
         Touche(VK_RETURN);
         ATTENDRE(Lire(L"Chemin_" + cote).ends_with(entree));
-        EXPECT_EQ(Nom_du_focus(), L"Répertoire_" + cote);
+        ATTENDRE(Nom_du_focus() == L"Répertoire_" + cote);
     }
     // Compares the box, then presses keys in it: the arrows go from the default button to another, Enter presses.
     void Repondre_au_clavier(const Pilote::Boite & attendue, std::initializer_list<WORD> touches) {
@@ -114,7 +114,7 @@ TEST_F(Clavier, echap_referme_une_liste_d_unites_sans_rien_changer_et_ne_fait_ri
     Touche(VK_ESCAPE);
     EXPECT_TRUE(Boite_absente());
     EXPECT_TRUE(programme->Vivant());
-    EXPECT_EQ(Nom_du_focus(), L"Unité_srce");
+    ATTENDRE(Nom_du_focus() == L"Unité_srce");
 }
 
 TEST_F(Clavier, le_champ_de_selection_n_a_son_texte_marque_que_tant_qu_il_a_le_focus) {
@@ -178,7 +178,7 @@ TEST_F(Clavier, le_focus_revient_apres_une_boite_et_apres_une_commande) {
                          MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2},
                         {VK_ESCAPE, VK_RETURN});
     ATTENDRE(GetForegroundWindow() == Principale());
-    EXPECT_EQ(Nom_du_focus(), L"Fichier_srce");
+    ATTENDRE(Nom_du_focus() == L"Fichier_srce");
     Aller_a(L"Sélection_fichiers");
     Pilote::Taper(L"<");
     Repondre_au_clavier(
@@ -210,7 +210,7 @@ TEST_F(Clavier_D, une_seance_entiere_choisit_une_unite_parcourt_copie_et_deplace
     Pilote::Taper(L"d");
     Touche(VK_RETURN);
     ATTENDRE(_wcsicmp(Lire(L"Chemin_dest").c_str(), L"d:\\") == 0);
-    EXPECT_EQ(Nom_du_focus(), L"Unité_dest");
+    ATTENDRE(Nom_du_focus() == L"Unité_dest");
     Ouvrir_au_clavier(L"dest", L"travail");
     Ouvrir_au_clavier(L"dest", L"fond");
     Ouvrir_au_clavier(L"srce", L"sous");
@@ -238,7 +238,7 @@ TEST_F(Clavier_D, une_seance_entiere_choisit_une_unite_parcourt_copie_et_deplace
     EXPECT_EQ(Pilote::Noms(L"D:\\travail\\fond"), (Textes{L"a.txt", L"b.txt"}));
     EXPECT_EQ(Pilote::Empreinte(L"D:\\travail\\fond\\b.txt"), Pilote::Empreinte(Source(L"sous\\b.txt")));
     EXPECT_EQ(Pilote::Differences(avant, Pilote::Lire_arbre(Source(L"sous"))), "");
-    EXPECT_EQ(Nom_du_focus(), L"Fichier_srce");
+    ATTENDRE(Nom_du_focus() == L"Fichier_srce");
 
     Pilote::Taper(L"d");
     ATTENDRE(Choisies() == Textes{L"d.txt"});
@@ -248,5 +248,5 @@ TEST_F(Clavier_D, une_seance_entiere_choisit_une_unite_parcourt_copie_et_deplace
     Attendre_fin_commande();
     EXPECT_FALSE(Pilote::Existe(Source(L"sous\\d.txt")));
     EXPECT_EQ(Pilote::Empreinte(L"D:\\travail\\fond\\d.txt"), empreinte);
-    EXPECT_EQ(Nom_du_focus(), L"Fichier_srce");
+    ATTENDRE(Nom_du_focus() == L"Fichier_srce");
 }

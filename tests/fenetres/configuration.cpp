@@ -186,7 +186,7 @@ TEST_F(Configuration, chaque_option_montre_sa_section_dans_l_ordre_du_fichier_et
         EXPECT_EQ(Utf8(editeur.Titre()), Utf8(c.titre));
         EXPECT_EQ(Utf8(editeur.Lire(L"Label_conf")), Utf8(c.label));
         EXPECT_EQ(editeur.Lire(L"Ligne_conf"), L"");
-        EXPECT_EQ(editeur.Nom_du_focus(), L"Ligne_conf");
+        ATTENDRE(editeur.Nom_du_focus() == L"Ligne_conf");
         for (const wchar_t * bouton : {L"Parcourir", L"Enregistrer", L"Effacer"})
             EXPECT_FALSE(editeur.Est_actif(bouton)) << Utf8(bouton);
         Attendre_lignes(editeur, c.lignes);
@@ -237,7 +237,7 @@ TEST_F(Configuration, une_ligne_choisie_se_copie_dans_le_champ_le_curseur_au_deb
     Choisir_ligne(editeur, 1);
     EXPECT_EQ(SendMessageW(editeur.Controle(L"Ligne_conf"), EM_GETSEL, 0, 0), 0);
     EXPECT_TRUE(editeur.Est_actif(L"Effacer"));
-    EXPECT_EQ(editeur.Nom_du_focus(), L"Liste_conf");
+    ATTENDRE(editeur.Nom_du_focus() == L"Liste_conf");
     Frapper(VK_UP);
     ATTENDRE(editeur.Lire(L"Ligne_conf") == L"Un=C:\\UN.EXE");
     Frapper(VK_RETURN);
@@ -298,7 +298,7 @@ TEST_F(Configuration, effacer_retire_la_ligne_du_fichier_jusqu_a_la_derniere) {
         editeur.Cliquer(L"Effacer");
         Attendre_lignes(editeur, reste);
         EXPECT_FALSE(editeur.Est_actif(L"Effacer"));
-        EXPECT_EQ(editeur.Nom_du_focus(), L"Ligne_conf");
+        ATTENDRE(editeur.Nom_du_focus() == L"Ligne_conf");
     }
     EXPECT_EQ(editeur.Lire(L"Ligne_conf"), L"Trois=*.a");
     Choisir_ligne(editeur, 0);
@@ -342,15 +342,18 @@ TEST_F(Configuration, parcourir_compose_la_ligne_d_un_bouton_et_annuler_la_laiss
     editeur.Cliquer(L"Parcourir");
     Annuler_dialogue(Attendre_dialogue_systeme(L"Parcourir pour le bouton '&Été'", types));
     EXPECT_EQ(editeur.Lire(L"Ligne_conf"), L"&Été=ancien");
-    EXPECT_EQ(editeur.Nom_du_focus(), L"Ligne_conf");
+    ATTENDRE(editeur.Nom_du_focus() == L"Ligne_conf");
     editeur.Cliquer(L"Parcourir");
     Choisir_fichier(Attendre_dialogue_systeme(L"Parcourir pour le bouton '&Été'", types),
                     Source(L"été n°1.exe"));
     ATTENDRE(editeur.Lire(L"Ligne_conf") == L"&Été=" + Source(L"été n°1.exe"));
-    EXPECT_EQ(editeur.Nom_du_focus(), L"Ligne_conf");
+    ATTENDRE(editeur.Nom_du_focus() == L"Ligne_conf");
     Attendre_permis(editeur, true, true);
+    // The caret is where the mark of the parameters goes.
+    Taper(L" ?");
+    ATTENDRE(editeur.Lire(L"Ligne_conf") == L"&Été=" + Source(L"été n°1.exe") + L" ?");
     editeur.Cliquer(L"Enregistrer");
-    Attendre_lignes(editeur, {L"&Été=" + Source(L"été n°1.exe")});
+    Attendre_lignes(editeur, {L"&Été=" + Source(L"été n°1.exe") + L" ?"});
     Fermer_editeur(editeur, true);
 }
 

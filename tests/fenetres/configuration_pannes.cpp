@@ -32,7 +32,7 @@ protected:
     void Verifier_en_attente(const Pilote::Fille & editeur, const std::wstring & ligne,
                              const Textes & lignes) {
         EXPECT_EQ(Utf8(editeur.Lire(L"Ligne_conf")), Utf8(ligne));
-        EXPECT_EQ(editeur.Nom_du_focus(), L"Ligne_conf");
+        ATTENDRE(editeur.Nom_du_focus() == L"Ligne_conf");
         EXPECT_TRUE(editeur.Est_actif(L"Enregistrer"));
         Attendre_lignes(editeur, lignes);
     }

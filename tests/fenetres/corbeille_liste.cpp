@@ -20,7 +20,7 @@ TEST_F(Corbeille,
     EXPECT_FALSE(Active(Principale()));
     Terminer(fille);
     EXPECT_EQ(Lignes_index(), Lignes());
-    EXPECT_EQ(Nom_du_focus(), L"Corbeille");
+    ATTENDRE(Nom_du_focus() == L"Corbeille");
     Verifier_principale_utilisable();
 }
 

@@ -63,7 +63,7 @@ void Filles::Verifier_clavier_et_disposition(const Pilote::Fille & fille, const 
     Textes inverse = attendus;
     std::reverse(inverse.begin() + 1, inverse.end());
     EXPECT_EQ(fille.Tour_du_clavier(true), inverse);
-    EXPECT_EQ(fille.Nom_du_focus(), attendus.front());
+    ATTENDRE(fille.Nom_du_focus() == attendus.front());
     EXPECT_FALSE(Active(Principale()));
 }
 

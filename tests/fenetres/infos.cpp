@@ -369,7 +369,7 @@ TEST_F(Infos, une_lettre_d_acces_passe_au_suivant_et_laisse_le_focus_sur_sa_case
         Alt(L's');
         Attendre_fichier(fille, nom);
         fille.Reposer();
-        EXPECT_EQ(fille.Nom_du_focus(), L"Lecture");
+        ATTENDRE(fille.Nom_du_focus() == L"Lecture");
     }
     Frapper(VK_SPACE);
     ATTENDRE(fille.Est_coche(L"Lecture"));

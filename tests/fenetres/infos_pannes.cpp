@@ -136,7 +136,7 @@ TEST_F(Infos_pannes, le_repertoire_sans_choix_est_resume) {
         Ouvrir_sans_choix(Source(c.nom));
         Attendre_resume(L"Le répertoire " + Source(c.nom) + c.fin);
         EXPECT_FALSE(Sablier());
-        EXPECT_EQ(Nom_du_focus(), L"Info");
+        ATTENDRE(Nom_du_focus() == L"Info");
     }
     Verifier_principale_utilisable();
 }

@@ -93,7 +93,7 @@ TEST_F(Disposition_lisible, la_touche_de_tabulation_suit_l_ordre_de_lecture) {
         EXPECT_LT(rang(Controle(avant)), rang(Controle(apres))) << Utf8(avant) << " puis " << Utf8(apres);
         parcourus.push_back(apres);
     }
-    EXPECT_EQ(Nom_du_focus(), L"Chemin_srce");
+    ATTENDRE(Nom_du_focus() == L"Chemin_srce");
     for (const wchar_t * attendu :
          {L"Unité_srce", L"Sélection_fichiers", L"Répertoire_srce", L"Fichier_srce", L"Copier", L"Déplacer",
           L"Sélecte", L"Mode", L"Croiser", L"Chemin_dest", L"Unité_dest", L"Répertoire_dest", L"Fichier_dest",

@@ -64,7 +64,7 @@ TEST_F(Motifs, les_deux_listes_suivent_chaque_motif_tape) {
         Les_listes_montrent(un.fichiers);
         EXPECT_EQ(Choisies(), Textes{});
     }
-    EXPECT_EQ(Nom_du_focus(), L"Sélection_fichiers");
+    ATTENDRE(Nom_du_focus() == L"Sélection_fichiers");
 }
 
 TEST_F(Motifs, le_motif_reste_quand_on_change_de_repertoire) {
@@ -98,7 +98,7 @@ TEST_F(Motifs, un_caractere_interdit_est_signale_et_les_listes_gardent_l_ancien_
                        MB_OK | MB_ICONEXCLAMATION, IDOK);
         Les_listes_montrent({L"a.txt", L"ab.doc"});
         EXPECT_EQ(Lire(L"Sélection_fichiers"), L"a*");
-        EXPECT_EQ(Nom_du_focus(), L"Sélection_fichiers");
+        ATTENDRE(Nom_du_focus() == L"Sélection_fichiers");
     }
     // The field goes on where it was.
     Pilote::Taper(L".doc");

@@ -146,7 +146,7 @@ TEST_F(Noms, un_repertoire_illisible_est_signale_et_les_volets_restent) {
                        MB_OK | MB_ICONEXCLAMATION, IDOK);
         EXPECT_EQ(Lire(std::wstring(L"Chemin_") + cote), chemin);
         EXPECT_EQ(Entrees(liste), avant);
-        EXPECT_EQ(Nom_du_focus(), liste);
+        ATTENDRE(Nom_du_focus() == liste);
     }
     EXPECT_EQ(Entrees(L"Fichier_srce"), Textes{L"a.txt"});
     // The pane goes on from where it stands.

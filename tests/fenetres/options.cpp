@@ -165,7 +165,7 @@ TEST_F(Options, choisi_sans_chemin_ecrit_courant_et_un_programme_blanc_redevient
     const auto fille = Rouvrir_options();
     fille.Cliquer(L"Racine");
     fille.Cliquer(L"Choisi");
-    EXPECT_EQ(fille.Nom_du_focus(), L"Choisi");
+    ATTENDRE(fille.Nom_du_focus() == L"Choisi");
     // What is typed counts for nothing while another choice is made.
     fille.Cliquer(L"Courant");
     Accepter(fille);

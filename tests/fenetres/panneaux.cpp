@@ -114,7 +114,7 @@ TEST_F(Panneaux, les_fleches_n_ouvrent_rien_et_entree_ouvre_le_repertoire_couran
     Lancer_dans_les_dossiers();
     Pilote::Frapper(VK_DOWN);
     Pilote::Reposer(Principale());
-    EXPECT_EQ(Nom_du_focus(), L"Répertoire_dest");
+    ATTENDRE(Nom_du_focus() == L"Répertoire_dest");
     Montre(L"dest", Sur_c(destination), {});
     Cliquer_entree(L"Répertoire_srce", L"source");
     Pilote::Frapper(VK_DOWN);
@@ -125,7 +125,7 @@ TEST_F(Panneaux, les_fleches_n_ouvrent_rien_et_entree_ouvre_le_repertoire_couran
     Pilote::Frapper(VK_RETURN);
     Montre(L"srce", Sur_c(Source(L"sous")), {L"b.txt"});
     EXPECT_EQ(Choisies(), Textes{L"b.txt"});
-    EXPECT_EQ(Nom_du_focus(), L"Répertoire_srce");
+    ATTENDRE(Nom_du_focus() == L"Répertoire_srce");
 }
 
 TEST_F(Panneaux, un_repertoire_vide_ne_laisse_rien_de_choisi_ni_de_compte) {
@@ -155,7 +155,7 @@ TEST_F(Panneaux, reprendre_la_meme_unite_ne_change_rien_mais_entree_y_relit_le_v
     Choisir_unite(L"Unité_srce", L'c');
     Montre(L"srce", Sur_c(source), {L"a.txt"});
     EXPECT_EQ(Choisies(), Textes{L"a.txt"});
-    EXPECT_EQ(Nom_du_focus(), L"Unité_srce");
+    ATTENDRE(Nom_du_focus() == L"Unité_srce");
     Pilote::Frapper(VK_RETURN);
     Montre(L"srce", Sur_c(source), {L"a.txt", L"b.txt"});
     EXPECT_EQ(Choisies(), Textes{});
@@ -202,7 +202,7 @@ TEST_F(Panneaux, la_liste_destination_refuse_chaque_clic_dans_les_deux_modes) {
     for (int i = 0; i < 2; ++i) {
         Cliquer_entree(L"Fichier_dest", L"a.txt");
         Refus_destination();
-        EXPECT_EQ(Nom_du_focus(), L"Fichier_dest");
+        ATTENDRE(Nom_du_focus() == L"Fichier_dest");
     }
     Passer_en_mode_repertoire();
     Cliquer_entree(L"Fichier_dest", L"a.txt");

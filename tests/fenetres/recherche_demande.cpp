@@ -25,7 +25,7 @@ TEST_F(Recherche_demande_D, la_fenetre_s_ouvre_a_sa_place_nomme_l_unite_et_atten
     const auto demande = Ouvrir_demande();
     Verifier_place(demande, 2220 + 15, 1100 + 15);
     EXPECT_EQ(demande.Lire(L"Label_Message"), L"Entrez le modèle ou le type de fichiers à rechercher sur D:");
-    EXPECT_EQ(demande.Nom_du_focus(), L"Fichiers_cherchés");
+    ATTENDRE(demande.Nom_du_focus() == L"Fichiers_cherchés");
     EXPECT_EQ(demande.Lire(L"Fichiers_cherchés") + demande.Lire(L"Fichiers_exclus"), L"");
     EXPECT_FALSE(Active(Principale()));
     Annuler(demande);

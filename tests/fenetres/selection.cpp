@@ -102,7 +102,7 @@ TEST_F(Selection, selectionner_tout_choisit_tout_et_une_seconde_fois_plus_rien) 
         Cliquer(L"Sélecte");
         EXPECT_EQ(Lire(L"Sélecte"), L"&Sélectionner tout");
         Compte({}, L"");
-        EXPECT_EQ(Nom_du_focus(), L"Sélecte");
+        ATTENDRE(Nom_du_focus() == L"Sélecte");
     }
 }
 
@@ -157,7 +157,7 @@ TEST_F(Selection, une_commande_sans_fichier_choisi_le_dit_et_rend_le_focus_a_son
         Attendre_boite(commande.titre, L"Pas de fichier(s) 'SOURCE' sélectionné(s).",
                        MB_OK | MB_ICONEXCLAMATION, IDOK);
         Attendre_fin_commande();
-        EXPECT_EQ(Nom_du_focus(), commande.bouton);
+        ATTENDRE(Nom_du_focus() == commande.bouton);
     }
     EXPECT_EQ(Pilote::Noms(destination), Textes{});
     EXPECT_EQ(Pilote::Noms(source).size(), 5u);

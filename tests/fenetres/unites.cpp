@@ -47,7 +47,7 @@ TEST_F(Unites_ADEF, une_unite_sans_support_est_signalee_et_chaque_volet_reste_co
     for (const wchar_t * liste : {L"Unité_srce", L"Unité_dest"}) {
         Choisir_unite(liste, L'f');
         Support_absent(L"F:");
-        EXPECT_EQ(Nom_du_focus(), liste);
+        ATTENDRE(Nom_du_focus() == liste);
         EXPECT_TRUE(Lire_volet(L"srce") == avant_srce)
             << Pilote::Utf8(Lire(L"Unité_srce") + L" " + Lire(L"Chemin_srce"));
         EXPECT_TRUE(Lire_volet(L"dest") == avant_dest)
