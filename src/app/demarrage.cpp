@@ -114,9 +114,15 @@ void Ouvrir_et_purger_corbeille() {
 // Defaults in the place of settings that are there would switch the recycle bin off without a word. Read once the report is closed,
 // they may be free again.
 void Exiger_reglages() {
+    const auto lisibles       = [] { Exiger_lisible(variables.Fichier_ini); };
+    bool       lus            = false;
     variables.Fichier_courant = Nom_du_chemin(variables.Fichier_ini);
-    Pieger(etape, [] { Exiger_lisible(variables.Fichier_ini); });
+    Pieger(etape, [&] {
+        lisibles();
+        lus = true;
+    });
     variables.Fichier_courant.clear();
+    variables.Limites_corbeille_lues = lus || Tenter(lisibles);
     Lire_iconise();
 }
 

@@ -59,7 +59,8 @@ struct Variables {
     int          Hauteur_fenetre = 0;
 
     // Recycle bin.
-    bool         Corbeille_active = false;
+    bool         Corbeille_active       = false;
+    bool         Limites_corbeille_lues = false;  // false: a locked file gave the defaults instead
     std::wstring Texte_taille_corbeille;
     std::wstring Texte_temps_corbeille;
     int          Taille_corbeille = 0;  // kilobytes, 0 for no limit

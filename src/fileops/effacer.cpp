@@ -215,6 +215,7 @@ std::size_t Effacement::Rang(const std::wstring & chemin) const {
 void Effacer_Click() {
     Garder(L"EFFACER", [](Gestion_Fichiers & f) {
         if (f.Ligne_message.Caption().empty()) return Signaler_absence_selection();
+        Exiger_limites();
         variables.Mode_effacement = 0;
         const Purge_finale purge;
         Effacement(f).Executer();

@@ -108,6 +108,14 @@ void Ouvrir_corbeille() {
     Tenter(Exiger_corbeille);
 }
 
+void Exiger_limites() {
+    if (variables.Limites_corbeille_lues) return;
+    Exiger_lisible(variables.Fichier_ini);
+    Lire_limites_corbeille();
+    variables.Limites_corbeille_lues = true;
+    if (variables.Corbeille_active) Ouvrir_corbeille();
+}
+
 void Exiger_corbeille() {
     Magasin & magasin = Magasin_corbeille();
     if (magasin.Ouvert()) return;

@@ -14,6 +14,9 @@ Magasin & Magasin_corbeille();
 // Opens the store anew, in the system directory or else in the user's own data; silent when it cannot: the next command that needs
 // it says so. The total is that of the settings, corrected by the index.
 void Ouvrir_corbeille();
+// Reads the limits that a locked file kept from being read at the start, and opens the store that they put in use. Error 70 while it
+// stays locked: without its limits an erasure would be final, and the bin's window would save none.
+void Exiger_limites();
 // Opens the store if it is not open; the error of the last place tried otherwise.
 void Exiger_corbeille();
 // What is asked between two files: lets events run; false once the stop was asked for or the program ends.

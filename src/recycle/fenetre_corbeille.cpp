@@ -237,6 +237,7 @@ Corbeille & Fenetre_corbeille() {
 void Corbeille_Click() {
     if (variables.Garde) return;
     Pieger(L"CORBEILLE", [] {
+        Exiger_limites();
         Corbeille & w = Fenetre_corbeille();
         Placer_fille(w, a_droite, en_bas);
         Pieger(etape_lecture, [&] { Lire_corbeille(w); });

@@ -164,6 +164,35 @@ TEST_F(Corbeille_limites, des_reglages_verrouilles_laissent_la_corbeille_en_serv
     Attendre_restants(rouverte, 3);
 }
 
+// The defaults of the start are no limits either.
+TEST_F(Corbeille_limites,
+       des_limites_que_le_demarrage_n_a_pu_lire_le_sont_avant_d_effacer_et_d_ouvrir_la_fenetre) {
+    Creer_source(L"a.txt", 10);
+    Mettre_trois();
+    Terminer(Ouvrir_corbeille());
+    Fermer();
+    HANDLE verrou = CreateFileW(Fichier_ini().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(verrou, INVALID_HANDLE_VALUE);
+    programme = std::make_unique<Programme>(dossier / L"programme\\KORVANE.EXE", L"", dossier.Chemin());
+    const std::wstring message = L"Disquette protégée en écriture\rou fichier verrouillé.";
+    Attendre_avertissement(message);
+    Attendre_pret();
+    Ouvrir(L"srce", source);
+    Choisir({L"a.txt"});
+    for (const wchar_t * bouton : {L"Effacer", L"Corbeille"}) {
+        Cliquer(bouton);
+        Attendre_avertissement(message);
+    }
+    EXPECT_TRUE(Existe(Source(L"a.txt")));
+    EXPECT_FALSE(Fenetre_corbeille().Ouverte());
+    CloseHandle(verrou);
+    const auto fille = Rouvrir_corbeille();
+    EXPECT_EQ(fille.Lire(L"Taille"), L"9999");
+    Attendre_restants(fille, 3);
+    Terminer(fille);
+    EXPECT_EQ(Cle(L"Taille"), L"9999");
+}
+
 TEST_F(Corbeille_limites, zero_est_refuse_la_fenetre_reste_et_rien_n_est_ecrit_ni_purge) {
     Mettre_trois();
     const auto                                        fille   = Ouvrir_corbeille();
